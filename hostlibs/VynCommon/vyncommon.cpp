@@ -1,0 +1,38 @@
+#include "vyncommon.h"
+
+#include "vynfamilyutils.h"
+#include "vynlocalizable.h"
+#include "vynproxyparampath.h"
+
+#include <QMetaType>
+
+namespace {
+int s_openCount = 0;
+}
+
+namespace VynCommon {
+
+void initializeTypes()
+{
+    qRegisterMetaType<VynProxyParamPath>();
+    qRegisterMetaType<VynFamilyUtils::VynDeviceFamily>();
+}
+
+void onOpeningModule()
+{
+    VynLocalizable::registerTables();
+    ++s_openCount;
+}
+
+void onLeavingModule()
+{
+    if (s_openCount > 0)
+        --s_openCount;
+}
+
+int openModuleCount()
+{
+    return s_openCount;
+}
+
+} // namespace VynCommon

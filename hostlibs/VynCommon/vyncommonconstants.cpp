@@ -1,0 +1,3 @@
+#include "vyncommonconstants.h"
+
+const QString kVynNullString;

@@ -1,0 +1,3 @@
+list(APPEND VYNUI_SOURCES
+    layout/vynviewutils.h layout/vynviewutils.cpp
+)

@@ -1,0 +1,77 @@
+#include "vynuiplugin.h"
+
+#include "vynuilocalizable.h"
+#include "vynviewutils.h"
+
+#include <qtcommons.h>
+#include <vyncommon.h>
+
+#include <QMetaType>
+
+extern void qml_register_types_VynUI();
+
+namespace {
+
+// Registers T and, when its name is qualified, the unqualified name as a typedef.
+template <typename T>
+void registerWithShortName()
+{
+    const QMetaType type = QMetaType::fromType<T>();
+    const QByteArray fullName = type.name();
+    const qsizetype separator = fullName.lastIndexOf("::");
+    const QByteArray shortName =
+        QMetaObject::normalizedType(fullName.mid(separator < 0 ? 0 : separator + 2).constData());
+    if (shortName != fullName)
+        QMetaType::registerNormalizedTypedef(shortName, type);
+}
+
+} // namespace
+
+VynUIPlugin::VynUIPlugin(QObject* parent) : QQmlEngineExtensionPlugin(parent)
+{
+    // Keeps the generated registration function referenced from the plugin.
+    volatile auto registration = &qml_register_types_VynUI;
+    Q_UNUSED(registration)
+}
+
+VynUIPlugin::~VynUIPlugin() = default;
+
+void VynUIPlugin::initializeTypes()
+{
+    VynCommon::initializeTypes();
+
+    using namespace VynViewUtils;
+    registerWithShortName<VynLiveButtonMode>();
+    registerWithShortName<VynControlSize>();
+    registerWithShortName<VynSelectorCellMode>();
+    registerWithShortName<VynLedState>();
+    registerWithShortName<VynLedShape>();
+    registerWithShortName<VynVerticalAlignment>();
+    registerWithShortName<VynAlignmentType>();
+    registerWithShortName<VynSide>();
+    registerWithShortName<VynCorner>();
+    registerWithShortName<VynSideBounds>();
+    registerWithShortName<VynGraphLabel>();
+    registerWithShortName<VynComboValue>();
+    registerWithShortName<VynParamSelectValue>();
+    registerWithShortName<VynTextFieldValue>();
+    registerWithShortName<VynResizeAnchor>();
+    registerWithShortName<VynModalResponse>();
+    registerWithShortName<VynResizeSettings>();
+    registerWithShortName<VynSpinBoxValue>();
+    registerWithShortName<VynUIComponentType>();
+
+    VynViewUtils::registerConverters();
+}
+
+void VynUIPlugin::onOpeningModule()
+{
+    VynCommon::onOpeningModule();
+    QtCommons::addQLocalTable(VynUILocalizable::context(),
+                              VynUILocalizable::k_VynUILocalizableHash);
+}
+
+void VynUIPlugin::onLeavingModule()
+{
+    VynCommon::onLeavingModule();
+}
