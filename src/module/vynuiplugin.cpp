@@ -1,5 +1,6 @@
 #include "vynuiplugin.h"
 
+#include "vyncolorutils.h"
 #include "vynuilocalizable.h"
 #include "vynviewutils.h"
 
@@ -39,6 +40,9 @@ VynUIPlugin::~VynUIPlugin() = default;
 void VynUIPlugin::initializeTypes()
 {
     VynCommon::initializeTypes();
+
+    registerWithShortName<VynColorUtils::VynStyle>();
+    registerWithShortName<VynColorUtils::VynStylePreference>();
 
     using namespace VynViewUtils;
     registerWithShortName<VynLiveButtonMode>();

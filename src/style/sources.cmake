@@ -1,0 +1,3 @@
+list(APPEND VYNUI_SOURCES
+    style/vyncolorutils.h style/vyncolorutils.cpp
+)

@@ -1,0 +1,3 @@
+#include "vyncolorutils.h"
+
+VynColorUtils::VynColorUtils(QObject* parent) : QObject(parent) {}
