@@ -1,0 +1,23 @@
+# QML documents and script libraries live under qml/<Family>/ and are picked up here;
+# a document whose text starts with "pragma Singleton" is registered as a singleton.
+# Images and fonts under qml/ become module resources.
+file(GLOB_RECURSE _vynui_qml CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR}
+    ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.qml
+    ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.js)
+list(SORT _vynui_qml)
+foreach(_file ${_vynui_qml})
+    file(STRINGS ${CMAKE_CURRENT_SOURCE_DIR}/${_file} _singleton REGEX "^pragma Singleton")
+    if(_singleton)
+        set_source_files_properties(${_file} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+    endif()
+endforeach()
+list(APPEND VYNUI_QML_FILES ${_vynui_qml})
+
+file(GLOB_RECURSE _vynui_resources CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR}
+    ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.png
+    ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.svg
+    ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.ttf
+    ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.otf
+    ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.txt)
+list(SORT _vynui_resources)
+list(APPEND VYNUI_RESOURCES ${_vynui_resources})
