@@ -1,0 +1,3 @@
+#include "qapplicationmessagepresenter.h"
+
+QApplicationMessagePresenter::~QApplicationMessagePresenter() = default;

@@ -1,0 +1,139 @@
+#include "qapplicationmessageqmlpresenter.h"
+
+#include "qapplicationmessage.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace {
+
+const char kDialogDocument[] = R"QML(
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+Dialog {
+    id: dialog
+    required property var message
+    objectName: "qApplicationMessageDialog"
+    modal: true
+    closePolicy: Popup.CloseOnEscape
+    anchors.centerIn: parent
+    width: Math.min(420, parent ? parent.width - 24 : 420)
+    title: dialog.message ? dialog.message.title : ""
+    onClosed: if (dialog.message && !dialog.message.isFinished) dialog.message.respond(-1)
+
+    contentItem: ColumnLayout {
+        spacing: 12
+        Label {
+            Layout.fillWidth: true
+            text: dialog.message ? dialog.message.string : ""
+            wrapMode: Text.WordWrap
+            visible: text.length > 0
+        }
+        CheckBox {
+            visible: dialog.message ? dialog.message.hasCheckbox : false
+            text: dialog.message ? dialog.message.checkboxText : ""
+            checked: dialog.message ? dialog.message.isChecked : false
+            onToggled: dialog.message.isChecked = checked
+        }
+    }
+
+    footer: Pane {
+        RowLayout {
+            anchors.right: parent.right
+            spacing: 8
+            Repeater {
+                model: dialog.message ? dialog.message.actions : []
+                Button {
+                    required property var modelData
+                    required property int index
+                    objectName: "qApplicationMessageButton" + index
+                    text: modelData.text
+                    highlighted: index === 0
+                    onClicked: {
+                        const message = dialog.message
+                        dialog.message = null
+                        dialog.close()
+                        message.respond(index)
+                    }
+                }
+            }
+        }
+    }
+}
+)QML";
+
+QQmlEngine* engineOfScene(QQuickWindow* window)
+{
+    if (QQmlEngine* engine = qmlEngine(window))
+        return engine;
+    const QList<QQuickItem*> items = window->contentItem()->childItems();
+    for (QQuickItem* item : items) {
+        if (QQmlEngine* engine = qmlEngine(item))
+            return engine;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+QApplicationMessageQmlPresenter::QApplicationMessageQmlPresenter() = default;
+
+QApplicationMessageQmlPresenter::~QApplicationMessageQmlPresenter() = default;
+
+QQmlEngine* QApplicationMessageQmlPresenter::engineFor(QQuickWindow* window)
+{
+    if (QQmlEngine* engine = engineOfScene(window))
+        return engine;
+    if (!m_ownEngine)
+        m_ownEngine = new QQmlEngine(QCoreApplication::instance());
+    return m_ownEngine;
+}
+
+void QApplicationMessageQmlPresenter::present(QApplicationMessage* p_message)
+{
+    if (!p_message || p_message->isFinished())
+        return;
+    const QPointer<QApplicationMessage> message(p_message);
+
+    auto* window = qobject_cast<QQuickWindow*>(message->window());
+    QQuickWindow* ownWindow = nullptr;
+    if (!window) {
+        ownWindow = new QQuickWindow();
+        ownWindow->setTitle(message->title());
+        ownWindow->resize(440, 220);
+        ownWindow->setModality(Qt::ApplicationModal);
+        QObject::connect(message, &QApplicationMessage::finished, ownWindow, &QObject::deleteLater);
+        window = ownWindow;
+    }
+
+    QQmlComponent component(engineFor(window));
+    component.setData(QByteArray(kDialogDocument),
+                      QUrl(QStringLiteral("qapplicationmessagedialog.qml")));
+    QObject* dialog = component.createWithInitialProperties(
+        {{QStringLiteral("message"), QVariant::fromValue<QObject*>(message.data())}});
+    if (!dialog) {
+        qWarning("QApplicationMessageQmlPresenter: cannot create the message dialog: %s",
+                 qPrintable(component.errorString()));
+        delete ownWindow;
+        message->respond(QApplicationMessage::NoResponse);
+        return;
+    }
+    QQmlEngine::setObjectOwnership(dialog, QQmlEngine::CppOwnership);
+    dialog->setParent(window->contentItem());
+    dialog->setProperty("parent", QVariant::fromValue(window->contentItem()));
+    QObject::connect(message, &QApplicationMessage::finished, dialog, &QObject::deleteLater);
+    QObject::connect(window, &QObject::destroyed, message, [message] {
+        if (message)
+            message->respond(QApplicationMessage::NoResponse);
+    });
+
+    if (ownWindow)
+        ownWindow->show();
+    QMetaObject::invokeMethod(dialog, "open");
+}
