@@ -1,0 +1,221 @@
+#include "vynuicomponent.h"
+
+#include <qapplicationmessage.h>
+#include <qloggermanager.h>
+
+#include <QQuickWindow>
+
+VynUIComponent::VynUIComponent(QObject* parent, bool p_enableLogs) : QObject(parent)
+{
+    if (p_enableLogs)
+        addLogDestination(metaObject(), QLogger::Error);
+}
+
+VynUIComponent::~VynUIComponent() = default;
+
+void VynUIComponent::addLogDestination(const QMetaObject* metaObject, int level)
+{
+    if (!QLogger::QLoggerManager::instanceIsAlive())
+        return;
+    QLogger::QLoggerManager::getInstance()->addDestination(
+        QString(), QString::fromLatin1(metaObject->className()), level, QString(),
+        QLogger::DefaultMode, QLogger::DefaultFileDisplay, QLogger::LogMessageDisplays());
+}
+
+void VynUIComponent::logError(const QString& message, const char* function, const char* file,
+                              int line) const
+{
+    const QString module = QString::fromLatin1(metaObject()->className());
+    if (QLogger::QLoggerManager::instanceIsAlive()) {
+        QLogger::QLoggerManager::getInstance()->enqueueMessage(module, QLogger::Error, message,
+                                                               QString::fromLatin1(function),
+                                                               QString::fromLatin1(file), line);
+    } else {
+        qWarning("%s: %s (%s)", qPrintable(module), qPrintable(message), function);
+    }
+}
+
+void VynUIComponent::setComponentType(VynViewUtils::VynUIComponentType type)
+{
+    if (type == m_componentType)
+        return;
+    m_componentType = type;
+    emit componentTypeChanged();
+}
+
+void VynUIComponent::setStyle(VynColorUtils::VynStyle style)
+{
+    if (style == m_style)
+        return;
+    m_style = style;
+    emit styleChanged();
+}
+
+void VynUIComponent::setParamPath(const VynProxyParamPath& path)
+{
+    if (!(path != m_paramPath))
+        return;
+    m_paramPath = path;
+    emit paramPathChanged();
+}
+
+void VynUIComponent::setSecurityKey(const QString& key)
+{
+    if (key == m_securityKey)
+        return;
+    m_securityKey = key;
+    emit securityTypeChanged();
+    emit enabledChanged();
+}
+
+void VynUIComponent::setSecurityType(VynCommonConstants::VynSecurityType type)
+{
+    if (type == m_securityType)
+        return;
+    m_securityType = type;
+    emit securityTypeChanged();
+    emit enabledChanged();
+}
+
+void VynUIComponent::setSecurityAlertTitleAndMessage(const QString& title, const QString& message)
+{
+    if (title == m_securityAlertTitle && message == m_securityAlertMessage)
+        return;
+    m_securityAlertTitle = title;
+    m_securityAlertMessage = message;
+    emit securityAlertChanged();
+}
+
+void VynUIComponent::setWindowController(QCoreWindowController* controller)
+{
+    if (controller == m_windowController)
+        return;
+    m_windowController = controller;
+    emit windowControllerChanged();
+}
+
+void VynUIComponent::setTooltipText(const QString& text)
+{
+    if (text == m_tooltipText)
+        return;
+    m_tooltipText = text;
+    emit tooltipTextChanged();
+}
+
+bool VynUIComponent::enabled() const
+{
+    return m_enabled && m_securityType != VynCommonConstants::VynSecurityTypeDisable;
+}
+
+void VynUIComponent::setEnabled(bool enabled)
+{
+    if (enabled == m_enabled)
+        return;
+    m_enabled = enabled;
+    emit enabledChanged();
+}
+
+void VynUIComponent::setPreviewMode(bool on)
+{
+    if (on == m_previewMode)
+        return;
+    m_previewMode = on;
+    emit previewModeChanged();
+}
+
+void VynUIComponent::setExpecting(bool on)
+{
+    if (on == m_expecting)
+        return;
+    m_expecting = on;
+    emit expectingChanged();
+}
+
+void VynUIComponent::setWantsName(bool on)
+{
+    if (on == m_wantsName)
+        return;
+    m_wantsName = on;
+    emit wantsNameChanged();
+}
+
+void VynUIComponent::setNameSize(VynViewUtils::VynControlSize size)
+{
+    if (size == m_nameSize)
+        return;
+    m_nameSize = size;
+    emit wantsNameChanged();
+}
+
+void VynUIComponent::setName(const QString& name)
+{
+    if (name == m_name)
+        return;
+    m_name = name;
+    emit nameChanged();
+}
+
+void VynUIComponent::restoreFromUIComponent(VynUIComponent* p_other)
+{
+    if (!p_other || p_other == this)
+        return;
+    setComponentType(p_other->componentType());
+    setParamPath(p_other->paramPath());
+    setSecurityKey(p_other->securityKey());
+    setSecurityType(p_other->securityType());
+    setSecurityAlertTitleAndMessage(p_other->securityAlertTitle(), p_other->securityAlertMessage());
+    setTooltipText(p_other->tooltipText());
+    setEnabled(p_other->storedEnabled());
+    setPreviewMode(p_other->previewMode());
+    setWindowController(p_other->windowController());
+    setWantsName(p_other->wantsName());
+    setNameSize(p_other->nameSize());
+    setName(p_other->name());
+}
+
+QString VynUIComponent::toStringValue()
+{
+    return kVynNullString;
+}
+
+void VynUIComponent::presentConfirmChangeAlertIfNeeded(std::function<void()> completion)
+{
+    // The scene look-ups are the ones VynUIQmlConstants::windowControllerForQmlObject() and
+    // windowForQmlObject() forward to.
+    QCoreWindowController* controller = m_windowController;
+    if (!controller)
+        controller = QCoreWindowController::controllerForQmlObject(this);
+    if (!controller)
+        return;
+    QQuickWindow* window = QCoreWindowController::windowForQmlObject(this);
+
+    QApplicationMessage::presentConfirmMessageIfNeededForSecurityType(
+        m_securityType, m_securityAlertTitle, m_securityAlertMessage, -1,
+        QApplicationMessage::Level_Warn, QApplicationMessage::Type_Popup, QPair<QString, QString>(),
+        {controller}, window,
+        [completion](int, bool, const QVariant&) {
+            if (completion)
+                completion();
+        },
+        QVariant());
+}
+
+void VynUIComponent::presentConfirmChangeAlertIfNeededQml(QJSValue p_completion)
+{
+    presentConfirmChangeAlertIfNeeded([p_completion]() mutable {
+        if (!p_completion.isNull() && p_completion.isCallable())
+            p_completion.call();
+    });
+}
+
+void VynUIComponent::onComponentIsAboutToComplete() {}
+
+void VynUIComponent::onComponentComplete() {}
+
+void VynUIComponent::onComponentIsAboutToDestroy() {}
+
+void VynUIComponent::onComponentDestroy() {}
+
+void VynUIComponent::updateData() {}
+
+void VynUIComponent::didUpdateSynchronizing() {}

@@ -1,0 +1,213 @@
+#include "vynuislidercomponent.h"
+
+#include <qloggermanager.h>
+
+#include <QJSEngine>
+
+#include <cmath>
+
+VynUISliderComponent::VynUISliderComponent(QObject* parent, bool p_enableLogs)
+    : VynUIComponent(parent, false), m_transformer(new VynTransformer(this))
+{
+    setComponentType(VynViewUtils::VynUIComponentTypeSlider);
+    if (p_enableLogs)
+        addLogDestination(&staticMetaObject, QLogger::Info);
+    connect(this, &VynUISliderComponent::slidingBegan, this, &VynUISliderComponent::onSlidingBegan);
+}
+
+VynUISliderComponent::~VynUISliderComponent() = default;
+
+bool VynUISliderComponent::fuzzyEquals(double a, double b)
+{
+    return std::fabs(a - b) * 1e12 <= std::min(std::fabs(a), std::fabs(b));
+}
+
+void VynUISliderComponent::setMixed(bool mixed)
+{
+    if (mixed == m_mixed)
+        return;
+    m_mixed = mixed;
+    emit mixedChanged();
+}
+
+void VynUISliderComponent::setSliding(bool sliding)
+{
+    if (sliding == m_sliding)
+        return;
+    m_sliding = sliding;
+    emit slidingChanged();
+}
+
+void VynUISliderComponent::setMinValue(double value)
+{
+    if (fuzzyEquals(value, m_minValue))
+        return;
+    m_minValue = value;
+    emit minValueChanged();
+}
+
+void VynUISliderComponent::setMaxValue(double value)
+{
+    if (fuzzyEquals(value, m_maxValue))
+        return;
+    m_maxValue = value;
+    emit maxValueChanged();
+}
+
+void VynUISliderComponent::setInitValue(double value)
+{
+    if (fuzzyEquals(value, m_initValue))
+        return;
+    m_initValue = value;
+    emit initValueChanged();
+}
+
+void VynUISliderComponent::setPrevValue(double value)
+{
+    if (value == m_prevValue)
+        return;
+    m_prevValue = value;
+    emit prevValueChanged();
+}
+
+void VynUISliderComponent::setValues(const QList<double>& values)
+{
+    QVariantList list;
+    list.reserve(values.size());
+    for (double v : values)
+        list.append(v);
+    if (list == m_values)
+        return;
+    m_values = list;
+    emit valuesChanged();
+}
+
+void VynUISliderComponent::setValue(double value, bool mixed, const QList<double>& values)
+{
+    setValues(values);
+    setMixed(mixed);
+    setValueQml(std::max(std::min(value, m_maxValue), m_minValue));
+}
+
+QString VynUISliderComponent::formatValue(double value) const
+{
+    if (!m_transformer)
+        return QString::number(value, 'g', 6);
+    return m_transformer->valueToString(static_cast<float>(value), m_textWithUnit, m_textAutoScale);
+}
+
+void VynUISliderComponent::setValueQml(double value)
+{
+    if (fuzzyEquals(value, m_value) && !m_stringValue.isEmpty())
+        return;
+    m_value = value;
+    m_stringValue = formatValue(value);
+    emit valueChanged();
+}
+
+void VynUISliderComponent::refreshStringValue()
+{
+    // A value never formatted stays unformatted until it is set.
+    if (m_stringValue.isEmpty())
+        return;
+    const QString text = formatValue(m_value);
+    if (text == m_stringValue)
+        return;
+    m_stringValue = text;
+    emit valueChanged();
+}
+
+void VynUISliderComponent::setTransformer(VynTransformer* transformer)
+{
+    // The previous clone stays a child: texts it made may still be shown.
+    m_transformer = transformer ? transformer->clone(this) : nullptr;
+    emit transformerChanged();
+    refreshStringValue();
+}
+
+QString VynUISliderComponent::toStringValue()
+{
+    return m_stringValue;
+}
+
+void VynUISliderComponent::setSlidingValidator(SlidingValidator validator)
+{
+    m_slidingValidator = std::move(validator);
+}
+
+void VynUISliderComponent::setValueValidator(ValueValidator validator)
+{
+    m_valueValidator = std::move(validator);
+}
+
+QJSValue VynUISliderComponent::jsSelf()
+{
+    QJSEngine* engine = qjsEngine(this);
+    return engine ? engine->newQObject(this) : QJSValue(QJSValue::NullValue);
+}
+
+void VynUISliderComponent::setSlidingValidatorQml(QJSValue p_validator)
+{
+    if (!p_validator.isCallable()) {
+        setSlidingValidator(nullptr);
+        return;
+    }
+    setSlidingValidator([p_validator](VynUISliderComponent* component) mutable {
+        const QJSValue answer = p_validator.call({component->jsSelf()});
+        if (answer.isError()) {
+            component->logError(answer.toString(), "shouldBeginSliding", __FILE__, __LINE__);
+            return false;
+        }
+        return answer.toBool();
+    });
+}
+
+void VynUISliderComponent::setValueValidatorQml(QJSValue p_validator)
+{
+    if (!p_validator.isCallable()) {
+        setValueValidator(nullptr);
+        return;
+    }
+    setValueValidator([p_validator](VynUISliderComponent* component, double& value, bool isRelative,
+                                    double prevValue, bool isFinal) mutable {
+        const QJSValue answer =
+            p_validator.call({component->jsSelf(), value, isRelative, prevValue, isFinal});
+        if (answer.isError()) {
+            component->logError(answer.toString(), "expectsValue", __FILE__, __LINE__);
+            return false;
+        }
+        if (answer.isObject() && !answer.isCallable()) {
+            const QJSValue replaced = answer.property(QStringLiteral("value"));
+            if (replaced.isNumber())
+                value = replaced.toNumber();
+            return answer.property(QStringLiteral("accepted")).toBool();
+        }
+        return answer.toBool();
+    });
+}
+
+bool VynUISliderComponent::shouldBeginSliding()
+{
+    if (!m_slidingValidator)
+        return false;
+    const SlidingValidator validator = m_slidingValidator;
+    return validator(this);
+}
+
+bool VynUISliderComponent::expectsValue(double p_value, bool p_isRelative, double p_prevValue,
+                                        bool p_isFinal)
+{
+    if (!m_valueValidator)
+        return false;
+    // A copy: the validator may install another one while it runs.
+    const ValueValidator validator = m_valueValidator;
+    double value = p_value;
+    const bool accepted = validator(this, value, p_isRelative, p_prevValue, p_isFinal);
+    setValueQml(value);
+    return accepted;
+}
+
+void VynUISliderComponent::onSlidingBegan()
+{
+    m_slideOffset = std::round(m_value) - m_value;
+}
