@@ -19,13 +19,14 @@ import QtQuick.Layouts
 Dialog {
     id: dialog
     required property var message
+    property bool answered: false
     objectName: "qApplicationMessageDialog"
     modal: true
     closePolicy: Popup.CloseOnEscape
     anchors.centerIn: parent
     width: Math.min(420, parent ? parent.width - 24 : 420)
     title: dialog.message ? dialog.message.title : ""
-    onClosed: if (dialog.message && !dialog.message.isFinished) dialog.message.respond(-1)
+    onClosed: if (!dialog.answered) dialog.message.respond(-1)
 
     contentItem: ColumnLayout {
         spacing: 12
@@ -56,10 +57,9 @@ Dialog {
                     text: modelData.text
                     highlighted: index === 0
                     onClicked: {
-                        const message = dialog.message
-                        dialog.message = null
+                        dialog.answered = true
                         dialog.close()
-                        message.respond(index)
+                        dialog.message.respond(index)
                     }
                 }
             }
