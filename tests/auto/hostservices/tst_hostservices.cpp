@@ -83,7 +83,7 @@ struct PresenterScope
 
 } // namespace
 
-class tst_HostLibs : public QObject
+class tst_HostServices : public QObject
 {
     Q_OBJECT
 
@@ -106,7 +106,7 @@ private slots:
     void windowControllerLookups();
 };
 
-void tst_HostLibs::transformerText_data()
+void tst_HostServices::transformerText_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("unit");
@@ -155,7 +155,7 @@ void tst_HostLibs::transformerText_data()
                          << "ms" << float(qQNaN()) << true << true << "- ms";
 }
 
-void tst_HostLibs::transformerText()
+void tst_HostServices::transformerText()
 {
     QFETCH(QString, kind);
     QFETCH(QString, unit);
@@ -169,7 +169,7 @@ void tst_HostLibs::transformerText()
     QCOMPARE(transformer->valueToString(raw, withUnit, autoScale), text);
 }
 
-void tst_HostLibs::transformerConversions()
+void tst_HostServices::transformerConversions()
 {
     VynDecibelTransformer amplitude(VynDecibelTransformer::RawAmplitude);
     QCOMPARE(amplitude.rawToDisplayed(10.0f), 20.0f);
@@ -185,7 +185,7 @@ void tst_HostLibs::transformerConversions()
     QCOMPARE(delay->currentUnitIndex(), 1);
 }
 
-void tst_HostLibs::transformerCloneKeepsKindAndUnit()
+void tst_HostServices::transformerCloneKeepsKindAndUnit()
 {
     VynFrequencyTransformer frequency;
     frequency.setCurrentUnit("kHz");
@@ -206,7 +206,7 @@ void tst_HostLibs::transformerCloneKeepsKindAndUnit()
     QCOMPARE(decibelClone->valueToString(-95.0f, true, true), QString("-inf dB"));
 }
 
-void tst_HostLibs::loggerWritesModuleFiles()
+void tst_HostServices::loggerWritesModuleFiles()
 {
     QTemporaryDir folder;
     QVERIFY(QLogger::QLoggerManager::instanceIsAlive() == false);
@@ -244,7 +244,7 @@ void tst_HostLibs::loggerWritesModuleFiles()
     QVERIFY(!QLogger::QLoggerManager::instanceIsAlive());
 }
 
-void tst_HostLibs::loggerRotatesFullFiles()
+void tst_HostServices::loggerRotatesFullFiles()
 {
     QTemporaryDir folder;
     QLogger::QLoggerManager* logger = QLogger::QLoggerManager::getInstance();
@@ -267,7 +267,7 @@ void tst_HostLibs::loggerRotatesFullFiles()
     QLogger::QLoggerManager::destroyInstance();
 }
 
-void tst_HostLibs::messageResponses_data()
+void tst_HostServices::messageResponses_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<int>("answer");
@@ -280,7 +280,7 @@ void tst_HostLibs::messageResponses_data()
     QTest::newRow("dismissed") << "custom" << -1 << QStringList({"Save", "Discard", "Keep"});
 }
 
-void tst_HostLibs::messageResponses()
+void tst_HostServices::messageResponses()
 {
     QFETCH(QString, kind);
     QFETCH(int, answer);
@@ -315,7 +315,7 @@ void tst_HostLibs::messageResponses()
     QVERIFY(!guard);
 }
 
-void tst_HostLibs::messageSecurityGate_data()
+void tst_HostServices::messageSecurityGate_data()
 {
     QTest::addColumn<int>("securityType");
     QTest::addColumn<int>("answer");
@@ -330,7 +330,7 @@ void tst_HostLibs::messageSecurityGate_data()
     QTest::newRow("disable") << 2 << 0 << false << false;
 }
 
-void tst_HostLibs::messageSecurityGate()
+void tst_HostServices::messageSecurityGate()
 {
     QFETCH(int, securityType);
     QFETCH(int, answer);
@@ -350,7 +350,7 @@ void tst_HostLibs::messageSecurityGate()
         QCOMPARE(presenter.buttons, QStringList({"Do it", "Cancel"}));
 }
 
-void tst_HostLibs::messageActionsRunOnce()
+void tst_HostServices::messageActionsRunOnce()
 {
     QApplicationMessage message;
     int first = 0;
@@ -369,7 +369,7 @@ void tst_HostLibs::messageActionsRunOnce()
     QCOMPARE(message.actionCount(), 1);
 }
 
-void tst_HostLibs::defaultPresenterShowsDialog()
+void tst_HostServices::defaultPresenterShowsDialog()
 {
     QQmlEngine engine;
     QQmlComponent component(&engine);
@@ -401,7 +401,7 @@ void tst_HostLibs::defaultPresenterShowsDialog()
     }
 }
 
-void tst_HostLibs::windowControllerLookups()
+void tst_HostServices::windowControllerLookups()
 {
     QQuickWindow window;
     auto* item = new QQuickItem(window.contentItem());
@@ -435,5 +435,5 @@ void tst_HostLibs::windowControllerLookups()
     QVERIFY(!other.window());
 }
 
-QTEST_MAIN(tst_HostLibs)
-#include "tst_hostlibs.moc"
+QTEST_MAIN(tst_HostServices)
+#include "tst_hostservices.moc"
