@@ -187,15 +187,31 @@ TestCase {
 
     function test_createObjectLocal() {
         const icon = ComponentUtils.createObjectLocal("../Icon/VynColorIcon.qml", container,
-                                                      { "index": 4, "mixed": true })
+                                                      { "colorIndex": 4, "mixed": true })
         verify(icon)
         verify(icon.parent === container)
-        compare(icon.index, 4)
+        compare(icon.colorIndex, 4)
         compare(icon.mixed, true)
         icon.destroy()
 
         ignoreWarning(/ComponentUtils.createObjectLocal/)
         compare(ComponentUtils.createObjectLocal("NoSuchDocument.qml", container), null)
+    }
+
+    function test_colorIconPalette() {
+        const icon = ComponentUtils.createObjectLocal("../Icon/VynColorIcon.qml", container)
+        verify(icon)
+        verify(!icon.hasColor)
+        icon.setIndex(icon.colors.length + 1)
+        compare(icon.colorIndex, icon.colors.length + 1)
+        verify(Qt.colorEqual(icon.color, icon.colors[1]), "indexes wrap around the palette")
+        icon.setIndex(-1)
+        verify(!icon.hasColor)
+        icon.mixed = true
+        verify(!icon.showsMixed, "mixed shows only where allowed")
+        icon.allowsMixed = true
+        verify(icon.showsMixed)
+        icon.destroy()
     }
 
     function test_imageWithColorIconOfSize_data() {

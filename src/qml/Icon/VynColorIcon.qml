@@ -15,7 +15,9 @@ Item {
     id: root
 
     property color color: "transparent"
-    property int index: -1
+    // Palette entry last chosen with setIndex(); -1 for none. Not named `index`, so that an icon
+    // inside a delegate still sees the delegate's model index.
+    property int colorIndex: -1
     property bool allowsMixed: false
     property bool mixed: false
     property int vynStyle: 1 // VynColorUtils.VynStyleDark
@@ -30,7 +32,7 @@ Item {
     readonly property bool hasColor: color.a > 0
 
     function setIndex(p_index) {
-        index = p_index
+        colorIndex = p_index
         if (p_index >= 0 && colors && colors.length > 0)
             color = colors[p_index % colors.length]
         else

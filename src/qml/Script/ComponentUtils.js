@@ -47,7 +47,9 @@ function createObjectLocal(qmlFile, parent, p_initProperties = null) {
 // created under parent (which must be an item shown in a window for the grab to run),
 // configured, grabbed and destroyed. callback receives the grab result (an
 // ItemGrabResult: image, url, saveToFile) or null when the icon cannot be created or the
-// grab cannot start. Returns true when the grab started.
+// grab cannot start. Qt releases the grab result when the callback returns: use it (save
+// it, show its url, copy its image) inside the callback. Returns true when the grab
+// started.
 function imageWithColorIconOfSize(parent, index, allowsMixed, mixed, style, pixelRatio, callback,
                                   targetSize = Qt.size(20, 20)) {
     const deliver = function (p_result) {
