@@ -162,19 +162,6 @@ TestCase {
         compare(point.y, data.ey)
     }
 
-    function test_validSize() {
-        const item = Qt.createQmlObject("import QtQuick; Item { implicitWidth: 30; implicitHeight: 12 }",
-                                        testCase)
-        compare(ComponentUtils.validWidth(item), 30)
-        compare(ComponentUtils.validHeight(item), 12)
-        item.width = 8
-        item.height = 4
-        compare(ComponentUtils.validWidth(item), 8)
-        compare(ComponentUtils.validHeight(item), 4)
-        compare(ComponentUtils.validWidth(null), 0)
-        item.destroy()
-    }
-
     function test_fontWidth() {
         const childrenBefore = sample.children.length
         compare(ComponentUtils.fontWidth(sample, sample.text), sample.paintedWidth)
