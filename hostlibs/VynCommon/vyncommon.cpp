@@ -1,5 +1,6 @@
 #include "vyncommon.h"
 
+#include "vyneqconstants.h"
 #include "vynfamilyutils.h"
 #include "vynlocalizable.h"
 #include "vynproxyparampath.h"
@@ -16,6 +17,7 @@ void initializeTypes()
 {
     qRegisterMetaType<VynProxyParamPath>();
     qRegisterMetaType<VynFamilyUtils::VynDeviceFamily>();
+    qRegisterMetaType<VynEQConstants::VynEQBandType>();
 }
 
 void onOpeningModule()
