@@ -1,3 +1,4 @@
 list(APPEND VYNUI_SOURCES
     style/vyncolorutils.h style/vyncolorutils.cpp
+    style/vynuiqmlconstants.h style/vynuiqmlconstants.cpp
 )
