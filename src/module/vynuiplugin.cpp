@@ -19,6 +19,7 @@ template <typename T>
 void registerWithShortName()
 {
     const QMetaType type = QMetaType::fromType<T>();
+    qRegisterMetaType<T>();
     const QByteArray fullName = type.name();
     const qsizetype separator = fullName.lastIndexOf("::");
     const QByteArray shortName =
