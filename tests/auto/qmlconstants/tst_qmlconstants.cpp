@@ -107,6 +107,7 @@ private slots:
     void halfPixel();
 
     void singletonSharedByEngines();
+    void registeredTypes();
 };
 
 void tst_QmlConstants::initTestCase()
@@ -734,6 +735,24 @@ void tst_QmlConstants::singletonSharedByEngines()
     // Both engines are gone and the object is still alive and answering.
     QCOMPARE(callMetric("fontSize", {}), 13.0);
     QVERIFY(VynUIQmlConstants::instance()->metaObject()->inherits(&QObject::staticMetaObject));
+}
+
+void tst_QmlConstants::registeredTypes()
+{
+    // The tick-mark record travels through QVariant under both its names; the band type
+    // reaches the meta-type system through VynCommon.
+    const QMetaType config = QMetaType::fromType<VynVUMeterConstants::VynVUMetreTickMarkConfig>();
+    QCOMPARE(QMetaType::fromName("VynVUMetreTickMarkConfig"), config);
+    QCOMPARE(QMetaType::fromName("VynVUMeterConstants::VynVUMetreTickMarkConfig"), config);
+    QCOMPARE(QMetaType::fromName("VynEQConstants::VynEQBandType"),
+             QMetaType::fromType<VynEQConstants::VynEQBandType>());
+
+    const QVariant variant =
+        QVariant::fromValue(VynVUMeterConstants::kVynVUMetreTickMarkConfigs[9]);
+    const auto back = variant.value<VynVUMeterConstants::VynVUMetreTickMarkConfig>();
+    QCOMPARE(back.primaryInterval, 25.0);
+    QCOMPARE(back.secondaryInterval, 5.0);
+    QCOMPARE(back.precision, 0);
 }
 
 QTEST_MAIN(tst_QmlConstants)
