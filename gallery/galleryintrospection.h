@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QVariantList>
 #include <QtQml/qqmlregistration.h>
+#include <QVariantList>
 
 // What the gallery shows about the module itself: the view enums with their values.
 class GalleryIntrospection : public QObject

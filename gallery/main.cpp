@@ -65,8 +65,8 @@ int main(int argc, char** argv)
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("VynUI gallery: the module's controls bound to a simulated amplifier fleet."));
+    parser.setApplicationDescription(QStringLiteral(
+        "VynUI gallery: the module's controls bound to a simulated amplifier fleet."));
     parser.addHelpOption();
     const QCommandLineOption screenshotOption(
         QStringLiteral("screenshot"), QStringLiteral("Render offscreen to <file> (PNG) and exit."),
@@ -136,7 +136,8 @@ int main(int argc, char** argv)
                 std::fprintf(stdout, "Saved %s (%dx%d)\n", qPrintable(screenshot), image.width(),
                              image.height());
             else
-                std::fprintf(stderr, "Could not save the screenshot to %s\n", qPrintable(screenshot));
+                std::fprintf(stderr, "Could not save the screenshot to %s\n",
+                             qPrintable(screenshot));
             QCoreApplication::exit(saved ? 0 : 1);
         });
         // Never hang, whatever happens to the scene.

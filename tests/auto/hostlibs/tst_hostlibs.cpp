@@ -36,14 +36,20 @@ void TestHostLibs::pathRoundTrip_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("canonical");
     QTest::addColumn<int>("count");
-    QTest::newRow("empty") << "" << "" << 0;
-    QTest::newRow("only separators") << "//" << "" << 0;
-    QTest::newRow("one name") << "Gain" << "Gain" << 1;
-    QTest::newRow("indexes") << "Amp[3]/Channel[2]/Gain" << "Amp[3]/Channel[2]/Gain" << 3;
+    QTest::newRow("empty") << ""
+                           << "" << 0;
+    QTest::newRow("only separators") << "//"
+                                     << "" << 0;
+    QTest::newRow("one name") << "Gain"
+                              << "Gain" << 1;
+    QTest::newRow("indexes") << "Amp[3]/Channel[2]/Gain"
+                             << "Amp[3]/Channel[2]/Gain" << 3;
     QTest::newRow("extra separators and spaces") << " /Amp[3]// Channel [2]/Gain/ "
                                                  << "Amp[3]/Channel[2]/Gain" << 3;
-    QTest::newRow("explicit id kept") << "Amp[1]/Meter#111" << "Amp[1]/Meter#111" << 2;
-    QTest::newRow("registered id dropped") << "Amp[1]/Gain#101" << "Amp[1]/Gain" << 2;
+    QTest::newRow("explicit id kept") << "Amp[1]/Meter#111"
+                                      << "Amp[1]/Meter#111" << 2;
+    QTest::newRow("registered id dropped") << "Amp[1]/Gain#101"
+                                           << "Amp[1]/Gain" << 2;
     QTest::newRow("names with spaces") << "Input Matrix[0]/Cross Point"
                                        << "Input Matrix[0]/Cross Point" << 2;
 }
@@ -86,12 +92,14 @@ void TestHostLibs::pathRejectsBadText()
 
 void TestHostLibs::pathOrdering()
 {
-    const auto p = [](const char* text) { return VynProxyParamPath::fromString(QLatin1String(text)); };
+    const auto p = [](const char* text) {
+        return VynProxyParamPath::fromString(QLatin1String(text));
+    };
     QVERIFY(p("") < p("Amp"));
-    QVERIFY(p("Amp") < p("Amp[0]"));          // no index before any index
-    QVERIFY(p("Amp[2]") < p("Amp[10]"));      // indexes compare as numbers
-    QVERIFY(p("Amp[1]") < p("Amp[1]/Gain"));  // a prefix before its extensions
-    QVERIFY(p("Amp[1]/Z") < p("Amp[2]/A"));   // element by element
+    QVERIFY(p("Amp") < p("Amp[0]"));         // no index before any index
+    QVERIFY(p("Amp[2]") < p("Amp[10]"));     // indexes compare as numbers
+    QVERIFY(p("Amp[1]") < p("Amp[1]/Gain")); // a prefix before its extensions
+    QVERIFY(p("Amp[1]/Z") < p("Amp[2]/A"));  // element by element
     QVERIFY(p("Gain#5") < p("Gain#7"));
     QCOMPARE(p("Amp[1]/Gain").compare(p("Amp[1]/Gain")), 0);
     QVERIFY(p("Amp[1]/Gain") != p("Amp[1]/Delay"));
@@ -192,7 +200,7 @@ public:
     {
         if (qstrcmp(context, "TranslatedTable") == 0 && qstrcmp(sourceText, "HELLO") == 0)
             return qstrcmp(disambiguation, "greeting") == 0 ? QStringLiteral("Servus")
-                                                             : QStringLiteral("Hallo");
+                                                            : QStringLiteral("Hallo");
         return QString();
     }
     bool isEmpty() const override { return false; }

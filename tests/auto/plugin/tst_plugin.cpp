@@ -68,14 +68,14 @@ void TestPlugin::shortTypeNames_data()
                                         << QMetaType::fromType<VynColorUtils::VynStylePreference>();
     QTest::newRow("VynLiveButtonMode") << QByteArray("VynLiveButtonMode")
                                        << QMetaType::fromType<VynViewUtils::VynLiveButtonMode>();
-    QTest::newRow("VynControlSize") << QByteArray("VynControlSize")
-                                    << QMetaType::fromType<VynViewUtils::VynControlSize>();
+    QTest::newRow("VynControlSize")
+        << QByteArray("VynControlSize") << QMetaType::fromType<VynViewUtils::VynControlSize>();
     QTest::newRow("VynSide") << QByteArray("VynSide")
                              << QMetaType::fromType<VynViewUtils::VynSide>();
-    QTest::newRow("VynResizeAnchor") << QByteArray("VynResizeAnchor")
-                                     << QMetaType::fromType<VynViewUtils::VynResizeAnchor>();
-    QTest::newRow("VynSideBounds") << QByteArray("VynSideBounds")
-                                   << QMetaType::fromType<VynViewUtils::VynSideBounds>();
+    QTest::newRow("VynResizeAnchor")
+        << QByteArray("VynResizeAnchor") << QMetaType::fromType<VynViewUtils::VynResizeAnchor>();
+    QTest::newRow("VynSideBounds")
+        << QByteArray("VynSideBounds") << QMetaType::fromType<VynViewUtils::VynSideBounds>();
     QTest::newRow("VynResizeSettings") << QByteArray("VynResizeSettings")
                                        << QMetaType::fromType<VynViewUtils::VynResizeSettings>();
     QTest::newRow("VynTextFieldValue") << QByteArray("VynTextFieldValue")
@@ -98,7 +98,8 @@ void TestPlugin::localisationTable()
     const auto& entries = VynUILocalizable::entries();
     QCOMPARE(entries.size(), 48);
     QCOMPARE(VynUILocalizable::k_VynUILocalizableHash.size(), 48);
-    QCOMPARE(entries.first(), qMakePair(QStringLiteral("CTXT"), QStringLiteral("VynUILocalizable")));
+    QCOMPARE(entries.first(),
+             qMakePair(QStringLiteral("CTXT"), QStringLiteral("VynUILocalizable")));
     QCOMPARE(entries.last().first, QStringLiteral("PRESS_FOR_DETAIL"));
     QCOMPARE(VynUILocalizable::context(), QStringLiteral("VynUILocalizable"));
 

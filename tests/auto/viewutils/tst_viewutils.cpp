@@ -394,11 +394,11 @@ void TestViewUtils::maxResizeFactors_data()
     QTest::newRow("top right") << r << int(VynResizeAnchorTopRight) << 1.5 << 4.5;
     // Anchor point beyond the bounds' far edges: those sides set no limit, and the near
     // sides have no part of the rectangle on them.
-    QTest::newRow("anchor past the far edges") << QRectF(100, 110, 20, 20) << int(VynResizeAnchorTopLeft)
-                                         << DBL_MAX << DBL_MAX;
+    QTest::newRow("anchor past the far edges")
+        << QRectF(100, 110, 20, 20) << int(VynResizeAnchorTopLeft) << DBL_MAX << DBL_MAX;
     // Anchor point exactly on the bounds' right edge: the right side gives no room.
-    QTest::newRow("anchor on the edge") << QRectF(80, 10, 20, 20) << int(VynResizeAnchorTopRight)
-                                        << 5.0 << 4.5;
+    QTest::newRow("anchor on the edge")
+        << QRectF(80, 10, 20, 20) << int(VynResizeAnchorTopRight) << 5.0 << 4.5;
     QTest::newRow("zero width") << QRectF(10, 10, 0, 20) << int(VynResizeAnchorTopLeft) << DBL_MAX
                                 << 4.5;
 }
@@ -415,8 +415,8 @@ void TestViewUtils::maxResizeFactors()
     QCOMPARE(factors.height(), height);
     // A limited factor is the largest that keeps the rectangle inside the bounds.
     if (width < DBL_MAX && height < DBL_MAX) {
-        const QRectF grown = qRectFResizedWithAnchor(rect, VynResizeAnchor(anchor),
-                                                     factors.width(), factors.height());
+        const QRectF grown = qRectFResizedWithAnchor(rect, VynResizeAnchor(anchor), factors.width(),
+                                                     factors.height());
         QVERIFY(qRectFLargeContainsRect(bounds.adjusted(-1e-9, -1e-9, 1e-9, 1e-9), grown));
     }
 }
@@ -441,11 +441,11 @@ void TestViewUtils::alignedOnGrid_data()
         << QRectF(13, 27, 25, 18) << 10.0 << true << true << QRectF(10, 20, 20, 10);
     QTest::newRow("origin only") << QRectF(13, 27, 25, 18) << 10.0 << false << false
                                  << QRectF(10, 20, 25, 18);
-    QTest::newRow("negative floors down") << QRectF(-3, -13, 5, 5) << 10.0 << false << false
-                                          << QRectF(-10, -20, 5, 5);
+    QTest::newRow("negative floors down")
+        << QRectF(-3, -13, 5, 5) << 10.0 << false << false << QRectF(-10, -20, 5, 5);
     // 0.3 / 0.1 is 2.9999999999999996 in double, exactly 3 in single precision.
-    QTest::newRow("single-precision quotient") << QRectF(0.3, 0, 1, 1) << 0.1 << false << false
-                                               << QRectF(0.30000000000000004, 0, 1, 1);
+    QTest::newRow("single-precision quotient")
+        << QRectF(0.3, 0, 1, 1) << 0.1 << false << false << QRectF(0.30000000000000004, 0, 1, 1);
     QTest::newRow("huge quotient used as it is")
         << QRectF(1e10 + 0.5, 0, 1, 1) << 1.0 << false << false
         << QRectF(double(float(1e10 + 0.5)), 0, 1, 1);
@@ -495,8 +495,7 @@ void TestViewUtils::fitted_data()
     QTest::newRow("clipped left") << QRectF(-10, 0, 20, 5) << QRectF(0, 0, 10, 5);
     QTest::newRow("clipped right and bottom") << QRectF(90, 95, 20, 20) << QRectF(90, 95, 10, 5);
     QTest::newRow("outside gives negative width") << QRectF(-10, 0, 5, 5) << QRectF(0, 0, -5, 5);
-    QTest::newRow("larger than the bounds") << QRectF(-10, -10, 200, 200)
-                                            << QRectF(0, 0, 100, 100);
+    QTest::newRow("larger than the bounds") << QRectF(-10, -10, 200, 200) << QRectF(0, 0, 100, 100);
 }
 
 void TestViewUtils::fitted()
