@@ -1,5 +1,6 @@
 #include <vynuiplugin.h>
 #include <vynuiqmlconstants.h>
+#include <vynviewconstants.h>
 #include <vynvumeterconstants.h>
 
 #include <qtcommonstitlebar.h>
@@ -753,6 +754,9 @@ void tst_QmlConstants::registeredTypes()
     QCOMPARE(back.primaryInterval, 25.0);
     QCOMPARE(back.secondaryInterval, 5.0);
     QCOMPARE(back.precision, 0);
+
+    QCOMPARE(QByteArray(VynViewConstants::staticMetaObject.className()),
+             QByteArray("VynViewConstants"));
 }
 
 QTEST_MAIN(tst_QmlConstants)
