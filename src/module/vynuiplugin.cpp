@@ -14,10 +14,10 @@ extern void qml_register_types_VynUI();
 namespace {
 
 // Registers T and, when its name is qualified, the unqualified name as a typedef.
-template <typename T>
-void registerWithShortName()
+template <typename T> void registerWithShortName()
 {
     const QMetaType type = QMetaType::fromType<T>();
+    qRegisterMetaType<T>();
     const QByteArray fullName = type.name();
     const qsizetype separator = fullName.lastIndexOf("::");
     const QByteArray shortName =
