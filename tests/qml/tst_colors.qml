@@ -6,6 +6,8 @@ TestCase {
     id: testCase
     name: "Colors"
 
+    property vynRGBColor record
+
     function fuzzyColor(actual, r, g, b, a, message) {
         fuzzyCompare(actual.r, r, 0.002, message + " red")
         fuzzyCompare(actual.g, g, 0.002, message + " green")
@@ -19,6 +21,17 @@ TestCase {
         compare(VynColorUtils.VynStylePrefLight, 0)
         compare(VynColorUtils.VynStylePrefDark, 1)
         compare(VynColorUtils.VynStylePrefSystem, 2)
+    }
+
+    function test_rgbColorValueType() {
+        // A colour record starts as transparent black and its channels are writable.
+        compare(testCase.record.red, 0)
+        compare(testCase.record.alpha, 0)
+        testCase.record.green = 0.25
+        testCase.record.alpha = 1
+        compare(testCase.record.green, 0.25)
+        compare(testCase.record.alpha, 1)
+        compare(testCase.record.blue, 0)
     }
 
     function test_colorUtilsNotCreatable() {
