@@ -58,11 +58,11 @@ public:
     {
         return colorWithRGBComponentsOffset(table, qsizetype(N), 0);
     }
-    //! Entry \a style of a [Light, Dark] table (clamped into the table).
+    //! Entry styleIndex(\a style) of a [Light, Dark] table: styles past Dark read Dark.
     template <std::size_t N>
     static QColor colorWithRGBComponentsStyle(const VynRGBColor (&table)[N], int style)
     {
-        return colorWithRGBComponentsOffset(table, qsizetype(N), style);
+        return colorWithRGBComponentsOffset(table, qsizetype(N), styleIndex(style));
     }
     //! Entry \a offset of \a table, clamped to 0..N−1.
     template <std::size_t N>
@@ -167,7 +167,8 @@ public:
     static QColor colorByApplyingHSBTransformStyle(const QColor& color,
                                                    const VynHSBTransform (&table)[N], int style)
     {
-        return colorByApplyingHSBTransform(color, transformAt(table, qsizetype(N), style));
+        return colorByApplyingHSBTransform(color,
+                                           transformAt(table, qsizetype(N), styleIndex(style)));
     }
     //! Applies entry \a offset of a transform table (clamped into it).
     template <std::size_t N>

@@ -170,6 +170,10 @@ void TestColorUtils::tableReads()
 {
     COMPARE_COLOR(VynColorUtils::colorWithRGBComponents(kColors), rgba(0, 0, 0, 0));
     COMPARE_COLOR(VynColorUtils::colorWithRGBComponentsStyle(kColors, 1), rgba(0.4, 0.8, 0.2));
+    // A style past Dark reads Dark, not a later entry of a longer table.
+    COMPARE_COLOR(VynColorUtils::colorWithRGBComponentsStyle(kColors, 4), rgba(0.4, 0.8, 0.2));
+    COMPARE_COLOR(VynColorUtils::colorByApplyingHSBTransformStyle(rgba(0, 0, 1), kTransforms, 9),
+                  VynColorUtils::colorByApplyingHSBTransform(rgba(0, 0, 1), kTransforms[1]));
     COMPARE_COLOR(VynColorUtils::colorWithRGBComponentsOffset(kColors, 4),
                   rgba(0.6, 0.6, 0.6, 0.6));
     // Indexes outside the table read its ends.
