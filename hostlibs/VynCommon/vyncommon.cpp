@@ -3,6 +3,7 @@
 #include "vynfamilyutils.h"
 #include "vynlocalizable.h"
 #include "vynproxyparampath.h"
+#include "vynrgbcolor.h"
 
 #include <QMetaType>
 
@@ -16,6 +17,7 @@ void initializeTypes()
 {
     qRegisterMetaType<VynProxyParamPath>();
     qRegisterMetaType<VynFamilyUtils::VynDeviceFamily>();
+    qRegisterMetaType<VynRGBColor>();
 }
 
 void onOpeningModule()

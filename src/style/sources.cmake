@@ -1,3 +1,6 @@
 list(APPEND VYNUI_SOURCES
+    style/vyncolorappearance.h style/vyncolorappearance.cpp
+    style/vyncolorconstants.h
     style/vyncolorutils.h style/vyncolorutils.cpp
+    style/vynhsbtransform.h
 )
