@@ -3,7 +3,7 @@
 //   vynui-gallery                      open the window (offscreen with a screenshot when
 //                                      there is no display)
 //   vynui-gallery --screenshot F.png   render offscreen to F.png and exit
-//   options: --style light|dark, --page <title>, --size WxH, --delay ms
+//   options: --appearance light|dark, --page <title>, --size WxH, --delay ms
 
 #include <vynuiplugin.h>
 
@@ -71,9 +71,10 @@ int main(int argc, char** argv)
     const QCommandLineOption screenshotOption(
         QStringLiteral("screenshot"), QStringLiteral("Render offscreen to <file> (PNG) and exit."),
         QStringLiteral("file"));
-    const QCommandLineOption styleOption(QStringLiteral("style"),
+    // Not "--style": QGuiApplication takes that one for the Qt Quick Controls style.
+    const QCommandLineOption styleOption(QStringLiteral("appearance"),
                                          QStringLiteral("Appearance: dark (default) or light."),
-                                         QStringLiteral("style"), QStringLiteral("dark"));
+                                         QStringLiteral("appearance"), QStringLiteral("dark"));
     const QCommandLineOption pageOption(QStringLiteral("page"),
                                         QStringLiteral("Title of the page to show first."),
                                         QStringLiteral("title"));
@@ -94,7 +95,7 @@ int main(int argc, char** argv)
     }
     const QString style = parser.value(styleOption).toLower();
     if (style != QLatin1String("dark") && style != QLatin1String("light")) {
-        std::fprintf(stderr, "Unknown style '%s': use dark or light.\n", qPrintable(style));
+        std::fprintf(stderr, "Unknown appearance '%s': use dark or light.\n", qPrintable(style));
         return 2;
     }
     const QSize size = parseSize(parser.value(sizeOption), QSize(1280, 800));

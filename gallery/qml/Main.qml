@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import VynUI 1.2
+import Gallery
 
 ApplicationWindow {
     id: window
@@ -10,11 +10,9 @@ ApplicationWindow {
     property bool darkStyle: true
     property string initialPage: ""
 
-    readonly property int vynStyle: darkStyle ? VynColorUtils.VynStyleDark : VynColorUtils.VynStyleLight
-    readonly property alias palette_: chrome
 
     // Pages of the gallery, in the order of the side bar. A new page is a file in pages/
-    // and one entry here.
+    // and one entry here; pages take the style from GalleryTheme.vynStyle.
     readonly property var pages: [
         { title: "Overview", source: "pages/OverviewPage.qml" }
     ]
@@ -23,23 +21,14 @@ ApplicationWindow {
     height: 800
     visible: true
     title: qsTr("VynUI Gallery")
-    color: chrome.windowColor
+    color: GalleryTheme.windowColor
 
-    QtObject {
-        id: chrome
-
-        readonly property color windowColor: window.darkStyle ? "#17181a" : "#ececec"
-        readonly property color sideBarColor: window.darkStyle ? "#202124" : "#f6f6f6"
-        readonly property color panelColor: window.darkStyle ? "#26272b" : "#ffffff"
-        readonly property color separatorColor: window.darkStyle ? "#34353a" : "#d2d2d2"
-        readonly property color textColor: window.darkStyle ? "#e8e8e8" : "#1c1c1c"
-        readonly property color secondaryTextColor: window.darkStyle ? "#9a9ca3" : "#6b6b6b"
-        readonly property color accentColor: window.darkStyle ? "#2f8cff" : "#1a6fe0"
-    }
+    onDarkStyleChanged: GalleryTheme.dark = darkStyle
+    Component.onCompleted: GalleryTheme.dark = darkStyle
 
     header: Rectangle {
         implicitHeight: 44
-        color: chrome.sideBarColor
+        color: GalleryTheme.sideBarColor
 
         RowLayout {
             anchors.fill: parent
@@ -49,13 +38,13 @@ ApplicationWindow {
 
             Label {
                 text: qsTr("VynUI Gallery")
-                color: chrome.textColor
+                color: GalleryTheme.textColor
                 font.pixelSize: 15
                 font.bold: true
             }
             Label {
                 text: pageList.currentIndex >= 0 ? "/  " + window.pages[pageList.currentIndex].title : ""
-                color: chrome.secondaryTextColor
+                color: GalleryTheme.secondaryTextColor
                 font.pixelSize: 15
             }
             Item {
@@ -63,7 +52,7 @@ ApplicationWindow {
             }
             Label {
                 text: qsTr("Dark")
-                color: chrome.secondaryTextColor
+                color: GalleryTheme.secondaryTextColor
             }
             Switch {
                 id: styleSwitch
@@ -75,7 +64,7 @@ ApplicationWindow {
             anchors.bottom: parent.bottom
             width: parent.width
             height: 1
-            color: chrome.separatorColor
+            color: GalleryTheme.separatorColor
         }
     }
 
@@ -86,7 +75,7 @@ ApplicationWindow {
         Rectangle {
             Layout.fillHeight: true
             Layout.preferredWidth: 200
-            color: chrome.sideBarColor
+            color: GalleryTheme.sideBarColor
 
             ListView {
                 id: pageList
@@ -101,9 +90,9 @@ ApplicationWindow {
                     width: ListView.view.width
                     height: 34
                     highlighted: ListView.isCurrentItem
-                    onClicked: pageList.currentIndex = index
+                    onClicked: pageDelegate.ListView.view.currentIndex = pageDelegate.index
                     background: Rectangle {
-                        color: pageDelegate.highlighted ? chrome.accentColor : "transparent"
+                        color: pageDelegate.highlighted ? GalleryTheme.accentColor : "transparent"
                         radius: 4
                         anchors.fill: parent
                         anchors.leftMargin: 8
@@ -112,7 +101,7 @@ ApplicationWindow {
                     contentItem: Label {
                         leftPadding: 12
                         text: pageDelegate.modelData.title
-                        color: pageDelegate.highlighted ? "white" : chrome.textColor
+                        color: pageDelegate.highlighted ? "white" : GalleryTheme.textColor
                         verticalAlignment: Text.AlignVCenter
                     }
                 }
@@ -121,7 +110,7 @@ ApplicationWindow {
                 anchors.right: parent.right
                 width: 1
                 height: parent.height
-                color: chrome.separatorColor
+                color: GalleryTheme.separatorColor
             }
         }
 
@@ -130,10 +119,6 @@ ApplicationWindow {
             Layout.fillWidth: true
             Layout.fillHeight: true
             source: window.pages[pageList.currentIndex].source
-            onLoaded: {
-                item.chrome = chrome
-                item.vynStyle = Qt.binding(() => window.vynStyle)
-            }
         }
     }
 }

@@ -4,6 +4,7 @@
 #include "vynfamilyutils.h"
 #include "vynlocalizable.h"
 #include "vynproxyparampath.h"
+#include "vynrgbcolor.h"
 
 #include <QMetaType>
 
@@ -18,6 +19,7 @@ void initializeTypes()
     qRegisterMetaType<VynProxyParamPath>();
     qRegisterMetaType<VynFamilyUtils::VynDeviceFamily>();
     qRegisterMetaType<VynEQConstants::VynEQBandType>();
+    qRegisterMetaType<VynRGBColor>();
 }
 
 void onOpeningModule()

@@ -8,9 +8,6 @@ import Gallery
 Flickable {
     id: page
 
-    property QtObject chrome
-    property int vynStyle: VynColorUtils.VynStyleDark
-
     contentWidth: width
     contentHeight: column.implicitHeight + 48
     clip: true
@@ -29,22 +26,22 @@ Flickable {
 
         Label {
             text: qsTr("VynUI %1").arg(GalleryIntrospection.moduleVersion())
-            color: page.chrome.textColor
+            color: GalleryTheme.textColor
             font.pixelSize: 26
             font.bold: true
         }
         Label {
             Layout.fillWidth: true
             wrapMode: Text.WordWrap
-            color: page.chrome.secondaryTextColor
+            color: GalleryTheme.secondaryTextColor
             text: qsTr("The shared user-interface layer for networked amplifiers and loudspeaker processors: parameter-bound control models, scaled metrics and light/dark colours, curve maths and a library of controls.")
         }
         Rectangle {
             Layout.fillWidth: true
             implicitHeight: 56
             radius: 6
-            color: page.chrome.panelColor
-            border.color: page.chrome.separatorColor
+            color: GalleryTheme.panelColor
+            border.color: GalleryTheme.separatorColor
 
             Row {
                 anchors.verticalCenter: parent.verticalCenter
@@ -59,11 +56,11 @@ Flickable {
                 }
                 Label {
                     text: qsTr("Module loaded. KORU_UI.testString:")
-                    color: page.chrome.secondaryTextColor
+                    color: GalleryTheme.secondaryTextColor
                 }
                 Label {
                     text: "\u201C" + probe.testString + "\u201D"
-                    color: page.chrome.textColor
+                    color: GalleryTheme.textColor
                     font.bold: true
                 }
             }
@@ -71,7 +68,7 @@ Flickable {
 
         Label {
             text: qsTr("View enums (VynViewUtils)")
-            color: page.chrome.textColor
+            color: GalleryTheme.textColor
             font.pixelSize: 17
             font.bold: true
             topPadding: 8
@@ -90,8 +87,8 @@ Flickable {
                     width: 280
                     height: cardColumn.implicitHeight + 20
                     radius: 6
-                    color: page.chrome.panelColor
-                    border.color: page.chrome.separatorColor
+                    color: GalleryTheme.panelColor
+                    border.color: GalleryTheme.separatorColor
 
                     Column {
                         id: cardColumn
@@ -102,7 +99,7 @@ Flickable {
 
                         Label {
                             text: card.modelData.name
-                            color: page.chrome.accentColor
+                            color: GalleryTheme.accentColor
                             font.bold: true
                             bottomPadding: 4
                         }
@@ -111,17 +108,17 @@ Flickable {
                             RowLayout {
                                 id: keyRow
                                 required property var modelData
-                                width: cardColumn.width
+                                width: 256
                                 Label {
                                     Layout.fillWidth: true
                                     text: keyRow.modelData.key
-                                    color: page.chrome.textColor
+                                    color: GalleryTheme.textColor
                                     font.pixelSize: 11
                                     elide: Text.ElideRight
                                 }
                                 Label {
                                     text: keyRow.modelData.value
-                                    color: page.chrome.secondaryTextColor
+                                    color: GalleryTheme.secondaryTextColor
                                     font.pixelSize: 11
                                     font.family: "monospace"
                                 }
