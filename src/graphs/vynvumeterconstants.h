@@ -2,13 +2,16 @@
 
 #include "vynuiglobal.h"
 
+#include <vynrgbcolor.h>
+
 #include <QObject>
 #include <QtQml/qqml.h>
 #include <QtQml/qqmlregistration.h>
 
 /*!
-    Data of the level meters: the tick-mark spacings offered to the scale drawn
-    beside a meter and the rule that picks one for a meter's length.
+    Data of the level meters: the colours of their cells and glows, the
+    tick-mark spacings offered to the scale drawn beside a meter and the rule
+    that picks one for a meter's length.
 */
 namespace VynVUMeterConstants {
 Q_NAMESPACE_EXPORT(VYNUI_EXPORT)
@@ -38,6 +41,18 @@ public:
     }
     bool operator!=(const VynVUMetreTickMarkConfig& o) const { return !(*this == o); }
 };
+
+//! Number of colours of a lit meter, from the bottom of the scale to the top.
+constexpr int kVynVUMeterOnColorsCount = 32;
+
+//! Lit cells: grey at the bottom, blue up to entry 21, then towards red-magenta.
+VYNUI_EXPORT extern const VynRGBColor kVynVUMeterOnColors[kVynVUMeterOnColorsCount];
+
+//! Glows of the hold cells: 32 for VynStyleLight followed by 32 for VynStyleDark.
+VYNUI_EXPORT extern const VynRGBColor kVynVUMeterGlowColors[2 * kVynVUMeterOnColorsCount];
+
+//! Unlit cells, [Light, Dark].
+VYNUI_EXPORT extern const VynRGBColor kVynVUMeterOffColor[2];
 
 //! Number of entries of kVynVUMetreTickMarkConfigs.
 constexpr int kVynVUMetreTickMarkConfigsCount = 16;

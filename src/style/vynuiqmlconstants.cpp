@@ -98,6 +98,12 @@ template <typename T, std::size_t N> const T& clampedEntry(const T (&table)[N], 
     return table[std::clamp(index, 0, int(N) - 1)];
 }
 
+// A meter level read as unsigned and limited to the top colour.
+int meterLevel(int index)
+{
+    return int(std::min(uint(index), uint(VynVUMeterConstants::kVynVUMeterOnColorsCount - 1)));
+}
+
 bool isSuggestionIndex(int index)
 {
     return index >= 0 && index < VynEQConstants::kVynEQSuggestionsCount;
@@ -2108,4 +2114,963 @@ VynUIQmlConstants::vuMeterTickMarksConfigForValues(int p_actualCellsLength, int 
 {
     return VynVUMeterConstants::tickMarksConfigForValues(p_actualCellsLength, p_minValue,
                                                          p_maxValue, p_actualDistanceBetweenTicks);
+}
+
+// Colours.
+
+VynColorUtils::VynStyle VynUIQmlConstants::styleForColor(const QColor& p_color)
+{
+    return VynColorUtils::backgroundStyle(p_color);
+}
+
+VynColorUtils::VynStyle VynUIQmlConstants::styleForColorExtreme(const QColor& p_color)
+{
+    return VynColorUtils::backgroundStyleExtreme(p_color);
+}
+
+// Colours, forwarded to VynColorAppearance.
+
+int VynUIQmlConstants::colorFactoryCount()
+{
+    return VynColorAppearance::colorFactoryCount();
+}
+
+QColor VynUIQmlConstants::colorFactory(int p_index)
+{
+    return VynColorAppearance::colorFactory(p_index);
+}
+
+VynRGBColor VynUIQmlConstants::rgbColorFactoryIndex(int p_index)
+{
+    return VynColorAppearance::rgbColorFactoryIndex(p_index);
+}
+
+QColor VynUIQmlConstants::readableColorFactoryForStyle(int p_index, VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::readableColorFactoryForStyle(p_index, p_style);
+}
+
+QColor VynUIQmlConstants::primaryColorFactoryForStyle(int p_index, VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::primaryColorFactoryForStyle(p_index, p_style);
+}
+
+QColor VynUIQmlConstants::secondaryColorFactoryForStyle(int p_index,
+                                                        VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::secondaryColorFactoryForStyle(p_index, p_style);
+}
+
+QColor VynUIQmlConstants::tertiaryColorFactoryForStyle(int p_index, VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tertiaryColorFactoryForStyle(p_index, p_style);
+}
+
+QColor VynUIQmlConstants::readableColorForStyle(const QColor& p_color,
+                                                VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::readableColorForStyle(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::primaryColorForStyle(const QColor& p_color,
+                                               VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::primaryColorForStyle(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::secondaryColorForStyle(const QColor& p_color,
+                                                 VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::secondaryColorForStyle(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::tertiaryColorForStyle(const QColor& p_color,
+                                                VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tertiaryColorForStyle(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::ledFillColorForState(int p_state)
+{
+    return VynColorAppearance::ledFillColorForState(p_state);
+}
+
+QColor VynUIQmlConstants::ledBorderColorForState(int p_state)
+{
+    return VynColorAppearance::ledBorderColorForState(p_state);
+}
+
+QColor VynUIQmlConstants::ledGlowColorForState(int p_state)
+{
+    return VynColorAppearance::ledGlowColorForState(p_state);
+}
+
+QColor VynUIQmlConstants::ledTextColor()
+{
+    return VynColorAppearance::ledTextColor();
+}
+
+QColor VynUIQmlConstants::yellowSelectionColor()
+{
+    return VynColorAppearance::yellowSelectionColor();
+}
+
+QColor VynUIQmlConstants::controlBorderRedColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::controlBorderRedColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::controlColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::controlColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::controlBorderColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                     bool p_isDefault, bool p_isDestructive)
+{
+    return VynColorAppearance::controlBorderColorForStyle(p_style, p_on, p_isDefault,
+                                                          p_isDestructive);
+}
+
+QColor VynUIQmlConstants::controlFillColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::controlFillColor(p_style);
+}
+
+QColor VynUIQmlConstants::controlOnGradientColor(double p_location)
+{
+    return VynColorAppearance::controlOnGradientColor(p_location);
+}
+
+QColor VynUIQmlConstants::controlOnRedGradientColor(double p_location)
+{
+    return VynColorAppearance::controlOnRedGradientColor(p_location);
+}
+
+QColor VynUIQmlConstants::controlMixedGradientColor(double p_location)
+{
+    return VynColorAppearance::controlMixedGradientColor(p_location);
+}
+
+QColor VynUIQmlConstants::controlOffGradientColorForStyle(double p_location,
+                                                          VynColorUtils::VynStyle p_style,
+                                                          bool p_opaque, bool p_isDefault,
+                                                          bool p_isDestructive)
+{
+    return VynColorAppearance::controlOffGradientColorForStyle(p_location, p_style, p_opaque,
+                                                               p_isDefault, p_isDestructive);
+}
+
+QColor VynUIQmlConstants::controlImageOnGradientColor(double p_location)
+{
+    return VynColorAppearance::controlImageOnGradientColor(p_location);
+}
+
+QColor VynUIQmlConstants::controlImageOffGradientColor(double p_location, bool p_isDefault,
+                                                       bool p_isDestructive)
+{
+    return VynColorAppearance::controlImageOffGradientColor(p_location, p_isDefault,
+                                                            p_isDestructive);
+}
+
+QColor VynUIQmlConstants::controlMixedTickColor()
+{
+    return VynColorAppearance::controlMixedTickColor();
+}
+
+QColor VynUIQmlConstants::controlTextColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                   bool p_isDefault, bool p_isDestructive)
+{
+    return VynColorAppearance::controlTextColorForStyle(p_style, p_on, p_isDefault,
+                                                        p_isDestructive);
+}
+
+QColor VynUIQmlConstants::flatButtonFillColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::flatButtonFillColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::flatButtonBorderColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::flatButtonBorderColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::flatButtonTextColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                      bool p_destructive)
+{
+    return VynColorAppearance::flatButtonTextColorForStyle(p_style, p_on, p_destructive);
+}
+
+QColor VynUIQmlConstants::flatButtonSeparatorColorForStyle(VynColorUtils::VynStyle p_style,
+                                                           int p_on)
+{
+    return VynColorAppearance::flatButtonSeparatorColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::templateButtonColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::templateButtonColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::templateButtonTextColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::templateButtonTextColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::inlineButtonColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::inlineButtonColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::toolbarButtonColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::toolbarButtonColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::toolbarButtonTextColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::toolbarButtonTextColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::controlTouchOverColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::controlTouchOverColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::textViewTextColorForStyle(VynColorUtils::VynStyle p_style, int p_mixed)
+{
+    return VynColorAppearance::textViewTextColorForStyle(p_style, p_mixed);
+}
+
+QColor VynUIQmlConstants::textViewBorderColorForStyle(VynColorUtils::VynStyle p_style, int p_mixed,
+                                                      bool p_editing)
+{
+    return VynColorAppearance::textViewBorderColorForStyle(p_style, p_mixed, p_editing);
+}
+
+QColor VynUIQmlConstants::bridgeIconColorForStyle(VynColorUtils::VynStyle p_style, int p_level,
+                                                  int p_mixed)
+{
+    return VynColorAppearance::bridgeIconColorForStyle(p_style, p_level, p_mixed);
+}
+
+QColor VynUIQmlConstants::badgeNewColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::badgeNewColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::liveModeButtonColor(int p_mode)
+{
+    return VynColorAppearance::liveModeButtonColor(p_mode);
+}
+
+QColor VynUIQmlConstants::liveModeButtonBackgroundColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::liveModeButtonBackgroundColor(p_style);
+}
+
+QColor VynUIQmlConstants::liveModeButtonFillColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::liveModeButtonFillColor(p_style);
+}
+
+QColor VynUIQmlConstants::logRecordButtonColor()
+{
+    return VynColorAppearance::logRecordButtonColor();
+}
+
+QColor VynUIQmlConstants::zoneIconFillColor(const QColor& p_color, VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::zoneIconFillColor(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::patchAnchorColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::patchAnchorColor(p_style);
+}
+
+QColor VynUIQmlConstants::patchLineNormalGradientColor(double p_location)
+{
+    return VynColorAppearance::patchLineNormalGradientColor(p_location);
+}
+
+QColor VynUIQmlConstants::patchLineExpectingGradientColor(double p_location)
+{
+    return VynColorAppearance::patchLineExpectingGradientColor(p_location);
+}
+
+QColor VynUIQmlConstants::patchLineMultipleGradientColor(double p_location)
+{
+    return VynColorAppearance::patchLineMultipleGradientColor(p_location);
+}
+
+QColor VynUIQmlConstants::patchDestructiveColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::patchDestructiveColor(p_style);
+}
+
+QColor VynUIQmlConstants::viewBackgroundColorForStyle(VynColorUtils::VynStyle p_style, int p_level)
+{
+    return VynColorAppearance::viewBackgroundColorForStyle(p_style, p_level);
+}
+
+QColor VynUIQmlConstants::textViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::textViewBackgroundColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::tableViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tableViewBackgroundColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::tableViewBorderColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tableViewBorderColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::tableSectionBackgroundColorForStyle(VynColorUtils::VynStyle p_style,
+                                                              bool p_warning)
+{
+    return VynColorAppearance::tableSectionBackgroundColorForStyle(p_style, p_warning);
+}
+
+QColor VynUIQmlConstants::tableSectionBorderColorForStyle(VynColorUtils::VynStyle p_style,
+                                                          bool p_warning)
+{
+    return VynColorAppearance::tableSectionBorderColorForStyle(p_style, p_warning);
+}
+
+QColor VynUIQmlConstants::borderViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::borderViewBackgroundColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::popoverBackgroundColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::popoverBackgroundColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::popoverBorderColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::popoverBorderColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::popoverShadowColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::popoverShadowColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::tableViewCellBackgroundColorForStyle(VynColorUtils::VynStyle p_style,
+                                                               bool p_selected, bool p_hasFocus,
+                                                               bool p_alternate)
+{
+    return VynColorAppearance::tableViewCellBackgroundColorForStyle(p_style, p_selected, p_hasFocus,
+                                                                    p_alternate);
+}
+
+QColor
+VynUIQmlConstants::tableViewCellBackgroundColorForTintAndStyle(const QColor& p_tint,
+                                                               VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tableViewCellBackgroundColorForTintAndStyle(p_tint, p_style);
+}
+
+QColor VynUIQmlConstants::tableViewCellRedOverlayColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tableViewCellRedOverlayColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::labelColorForStyle(VynColorUtils::VynStyle p_style, int p_level)
+{
+    return VynColorAppearance::labelColorForStyle(p_style, p_level);
+}
+
+QColor VynUIQmlConstants::coloredLabelColorForStyle(VynColorUtils::VynStyle p_style, int p_level)
+{
+    return VynColorAppearance::coloredLabelColorForStyle(p_style, p_level);
+}
+
+QColor VynUIQmlConstants::lineViewColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::lineViewColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::splitViewLineColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::splitViewLineColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::viewListButtonTitleColorForStyle(VynColorUtils::VynStyle p_style,
+                                                           int p_level, const QColor& p_color,
+                                                           bool p_mouseOver)
+{
+    return VynColorAppearance::viewListButtonTitleColorForStyle(p_style, p_level, p_color,
+                                                                p_mouseOver);
+}
+
+QColor VynUIQmlConstants::viewListHeaderLineColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::viewListHeaderLineColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::viewListHeaderLineShadowColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::viewListHeaderLineShadowColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::windowBackgroundColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::windowBackgroundColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::windowBorderColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::windowBorderColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::colorIconShadowColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::colorIconShadowColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::colorIconBorderColorForStyle(const QColor& p_color,
+                                                       VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::colorIconBorderColorForStyle(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::tableLabelColorForStyle(VynColorUtils::VynStyle p_style, bool p_selected,
+                                                  bool p_hasFocus, int p_level)
+{
+    return VynColorAppearance::tableLabelColorForStyle(p_style, p_selected, p_hasFocus, p_level);
+}
+
+QColor VynUIQmlConstants::tableTintedLabelColorForStyle(const QColor& p_color,
+                                                        VynColorUtils::VynStyle p_style,
+                                                        bool p_selected)
+{
+    return VynColorAppearance::tableTintedLabelColorForStyle(p_color, p_style, p_selected);
+}
+
+QColor VynUIQmlConstants::popupBackgroundColorForStyle(const QColor& p_color,
+                                                       VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::popupBackgroundColorForStyle(p_color, p_style);
+}
+
+QList<QColor> VynUIQmlConstants::backgroundColorsWithStops(const QColor& p_color,
+                                                           const QList<double>& p_stops)
+{
+    return VynColorAppearance::backgroundColorsWithStops(p_color, p_stops);
+}
+
+QList<QColor> VynUIQmlConstants::backgroundColorsForStyleWithStops(const QColor& p_color,
+                                                                   VynColorUtils::VynStyle p_style,
+                                                                   const QList<double>& p_stops)
+{
+    return VynColorAppearance::backgroundColorsForStyleWithStops(p_color, p_style, p_stops);
+}
+
+QList<QColor> VynUIQmlConstants::backgroundColorsExtremeForStyleWithStops(
+    const QColor& p_color, VynColorUtils::VynStyle p_style, const QList<double>& p_stops)
+{
+    return VynColorAppearance::backgroundColorsExtremeForStyleWithStops(p_color, p_style, p_stops);
+}
+
+QColor VynUIQmlConstants::circularUpdateTrackColor(const QColor& p_color)
+{
+    return VynColorAppearance::circularUpdateTrackColor(p_color);
+}
+
+QColor VynUIQmlConstants::networkMapBackgroundColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::networkMapBackgroundColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::networkMapShadowColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::networkMapShadowColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::mapImageGridColor()
+{
+    return VynColorAppearance::mapImageGridColor();
+}
+
+QColor VynUIQmlConstants::mapImageMissingColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::mapImageMissingColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::mapImageAnchorFillColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::mapImageAnchorFillColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::mapImageAnchorBorderColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::mapImageAnchorBorderColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::networkPhantomCellFillColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::networkPhantomCellFillColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::networkPhantomCellBorderColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::networkPhantomCellBorderColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::networkOutOfContainerFocusColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::networkOutOfContainerFocusColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::networkCellBackgroundColorForStyle(const QColor& p_tint,
+                                                             VynColorUtils::VynStyle p_style,
+                                                             bool p_selected)
+{
+    return VynColorAppearance::networkCellBackgroundColorForStyle(p_tint, p_style, p_selected);
+}
+
+QColor VynUIQmlConstants::networkCellBorderColorForStyle(const QColor& p_tint,
+                                                         VynColorUtils::VynStyle p_style,
+                                                         bool p_selected)
+{
+    return VynColorAppearance::networkCellBorderColorForStyle(p_tint, p_style, p_selected);
+}
+
+QColor VynUIQmlConstants::networkCellSelectedBorderColorForStyle(const QColor& p_tint,
+                                                                 VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::networkCellSelectedBorderColorForStyle(p_tint, p_style);
+}
+
+QColor VynUIQmlConstants::networkCellEvenColorForStyle(const QColor& p_tint,
+                                                       VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::networkCellEvenColorForStyle(p_tint, p_style);
+}
+
+QColor VynUIQmlConstants::networkCellOddColorForStyle(const QColor& p_tint,
+                                                      VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::networkCellOddColorForStyle(p_tint, p_style);
+}
+
+QColor VynUIQmlConstants::lassoBorderColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::lassoBorderColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::lassoFillColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::lassoFillColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::taskButtonColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::taskButtonColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::alignmentGuideColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::alignmentGuideColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::tuningBorderViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tuningBorderViewBackgroundColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::screenCompositionBorderColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::screenCompositionBorderColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::tuningHeaderBackgroundColorForStyle(VynColorUtils::VynStyle p_style,
+                                                              int p_level)
+{
+    return VynColorAppearance::tuningHeaderBackgroundColorForStyle(p_style, p_level);
+}
+
+QColor VynUIQmlConstants::tuningStatusLabelColorForStyle(VynColorUtils::VynStyle p_style,
+                                                         int p_level)
+{
+    return VynColorAppearance::tuningStatusLabelColorForStyle(p_style, p_level);
+}
+
+QColor VynUIQmlConstants::tuningStatusWarningColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tuningStatusWarningColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::tuningProductLabelColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tuningProductLabelColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::tuningGlobalViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::tuningGlobalViewBackgroundColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::vuMeterBorderColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::vuMeterBorderColor(p_style);
+}
+
+QColor VynUIQmlConstants::vuMeterFillColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::vuMeterFillColor(p_style);
+}
+
+QColor VynUIQmlConstants::vuMeterTickMarkColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::vuMeterTickMarkColor(p_style);
+}
+
+QColor VynUIQmlConstants::eqThumbnailOnBkgGradientColorForStyle(double p_location,
+                                                                VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqThumbnailOnBkgGradientColorForStyle(p_location, p_style);
+}
+
+QColor VynUIQmlConstants::eqThumbnailOffBkgGradientColorForStyle(double p_location,
+                                                                 VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqThumbnailOffBkgGradientColorForStyle(p_location, p_style);
+}
+
+QColor VynUIQmlConstants::eqThumbnailMixedBkgGradientColorForStyle(double p_location,
+                                                                   VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqThumbnailMixedBkgGradientColorForStyle(p_location, p_style);
+}
+
+QColor VynUIQmlConstants::eqThumbColorForStyle(VynColorUtils::VynStyle p_style, bool p_selected,
+                                               int p_on)
+{
+    return VynColorAppearance::eqThumbColorForStyle(p_style, p_selected, p_on);
+}
+
+QColor VynUIQmlConstants::eqTypeCurveColorForStyle(VynColorUtils::VynStyle p_style, int p_on)
+{
+    return VynColorAppearance::eqTypeCurveColorForStyle(p_style, p_on);
+}
+
+QColor VynUIQmlConstants::eqCurveGradientColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                       int p_curveIndex, int p_numberOfCurves)
+{
+    return VynColorAppearance::eqCurveGradientColorForStyle(p_style, p_on, p_curveIndex,
+                                                            p_numberOfCurves, nullptr, nullptr);
+}
+
+QColor VynUIQmlConstants::eqThumbnailGridColorsForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqThumbnailGridColorsForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqThumbnailLeftTextColor()
+{
+    return VynColorAppearance::eqThumbnailLeftTextColor();
+}
+
+QColor VynUIQmlConstants::eqThumbnailLeftBkgOnColor()
+{
+    return VynColorAppearance::eqThumbnailLeftBkgOnColor();
+}
+
+QColor VynUIQmlConstants::eqThumbnailLeftBkgOffColor()
+{
+    return VynColorAppearance::eqThumbnailLeftBkgOffColor();
+}
+
+QColor VynUIQmlConstants::eqThumbnailLeftBkgMixedColor()
+{
+    return VynColorAppearance::eqThumbnailLeftBkgMixedColor();
+}
+
+QColor VynUIQmlConstants::eqThumbnailRightOnColorsForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqThumbnailRightOnColorsForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqThumbnailRightOffColorsForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqThumbnailRightOffColorsForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqThumbnailRightMixedColorsForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqThumbnailRightMixedColorsForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqThumbnailEmptyColor()
+{
+    return VynColorAppearance::eqThumbnailEmptyColor();
+}
+
+QColor VynUIQmlConstants::eqThumbnailBorderColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqThumbnailBorderColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqGraphArrayEQFillColorsForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqGraphArrayEQFillColorsForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqGraphArrayEQBorderColorsForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqGraphArrayEQBorderColorsForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqGraphLabelColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqGraphLabelColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqGraphAxisMainColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqGraphAxisMainColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqGraphAxisSecondaryColorForStyle(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::eqGraphAxisSecondaryColorForStyle(p_style);
+}
+
+QColor VynUIQmlConstants::eqGraphBackgroundGradientColor(const QColor& p_tint,
+                                                         VynColorUtils::VynStyle p_style,
+                                                         int p_position)
+{
+    return VynColorAppearance::eqGraphBackgroundGradientColor(p_tint, p_style, p_position);
+}
+
+QColor VynUIQmlConstants::recapHeaderGradientColor(const QColor& p_tint,
+                                                   VynColorUtils::VynStyle p_style, int p_position)
+{
+    return VynColorAppearance::recapHeaderGradientColor(p_tint, p_style, p_position);
+}
+
+QColor VynUIQmlConstants::graphBackgroundTransformedColor(const QColor& p_color,
+                                                          VynColorUtils::VynStyle p_style,
+                                                          int p_firstOrSecond)
+{
+    return VynColorAppearance::graphBackgroundTransformedColor(p_color, p_style, p_firstOrSecond);
+}
+
+QColor VynUIQmlConstants::graphThumbLabelBackgroundTransformedColor(const QColor& p_color,
+                                                                    VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::graphThumbLabelBackgroundTransformedColor(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::barGraphPercentTransformedColor(const QColor& p_color,
+                                                          VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::barGraphPercentTransformedColor(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::barGraphHighlightTransformedColor(const QColor& p_color,
+                                                            VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::barGraphHighlightTransformedColor(p_color, p_style);
+}
+
+QColor VynUIQmlConstants::logGraphInfoColor(int p_paramFamily)
+{
+    return VynColorAppearance::logGraphInfoColor(p_paramFamily);
+}
+
+QColor VynUIQmlConstants::logGraphMarkColor(const QColor& p_infoColor)
+{
+    return VynColorAppearance::logGraphMarkColor(p_infoColor);
+}
+
+QColor VynUIQmlConstants::logGraphAxisColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logGraphAxisColor(p_style);
+}
+
+QColor VynUIQmlConstants::logGraphLabelColor(VynColorUtils::VynStyle p_style, int p_timeOrDay)
+{
+    return VynColorAppearance::logGraphLabelColor(p_style, p_timeOrDay);
+}
+
+QColor VynUIQmlConstants::logGraphLabelShadowColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logGraphLabelShadowColor(p_style);
+}
+
+QColor VynUIQmlConstants::logGraphInfoNoGraphColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logGraphInfoNoGraphColor(p_style);
+}
+
+QColor VynUIQmlConstants::logTimeSliderBreakColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logTimeSliderBreakColor(p_style);
+}
+
+QColor VynUIQmlConstants::logTimeSliderLabelColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logTimeSliderLabelColor(p_style);
+}
+
+QColor VynUIQmlConstants::logGraphBreakFillColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logGraphBreakFillColor(p_style);
+}
+
+QColor VynUIQmlConstants::logGraphBreakBorderColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logGraphBreakBorderColor(p_style);
+}
+
+QColor VynUIQmlConstants::logKeyFactsTitleColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logKeyFactsTitleColor(p_style);
+}
+
+QColor VynUIQmlConstants::logGraphInfoColor2(const QColor& p_color, VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::logGraphInfoColor2(p_color, p_style);
+}
+
+// Colour arithmetic, forwarded to VynColorUtils.
+
+QColor VynUIQmlConstants::colorWithRGBAffineTransformA(const QColor& p_color, double p_a,
+                                                       double p_b, double p_alpha)
+{
+    return VynColorUtils::colorWithRGBAffineTransformA(p_color, p_a, p_b, p_alpha);
+}
+
+QColor VynUIQmlConstants::colorByIncreasingLuminosityWithScale(const QColor& p_color,
+                                                               double p_scale, double p_offset)
+{
+    return VynColorUtils::colorByIncreasingLuminosityWithScale(p_color, p_scale, p_offset);
+}
+
+QColor VynUIQmlConstants::colorBySettingBrightness(const QColor& p_color, double p_brightness)
+{
+    return VynColorUtils::colorBySettingBrightness(p_color, p_brightness);
+}
+
+QColor VynUIQmlConstants::colorBySettingAlpha(const QColor& p_color, double p_alpha)
+{
+    return VynColorUtils::colorBySettingAlpha(p_color, p_alpha);
+}
+
+QColor VynUIQmlConstants::colorByIncreasingSaturationWithScale(const QColor& p_color,
+                                                               double p_scale, double p_offset)
+{
+    return VynColorUtils::colorByIncreasingSaturationWithScale(p_color, p_scale, p_offset);
+}
+
+QColor VynUIQmlConstants::colorBySettingSaturation(const QColor& p_color, double p_saturation)
+{
+    return VynColorUtils::colorBySettingSaturation(p_color, p_saturation);
+}
+
+QColor VynUIQmlConstants::colorWithColorAndMaxDistance(const QColor& p_color, double p_distance)
+{
+    return VynColorUtils::colorWithColorAndMaxDistance(p_color, p_distance);
+}
+
+QColor VynUIQmlConstants::noAlphaColorOverColor(const QColor& p_color, const QColor& p_background)
+{
+    return VynColorUtils::noAlphaColorOverColor(p_color, p_background);
+}
+
+QColor VynUIQmlConstants::colorByOverlayingColor(const QColor& p_main, const QColor& p_top)
+{
+    return VynColorUtils::colorByOverlayingColor(p_main, p_top);
+}
+
+QColor VynUIQmlConstants::contrastingColor(const QColor& p_color)
+{
+    return VynColorUtils::contrastingColor(p_color);
+}
+
+QColor VynUIQmlConstants::contrastingColorLight(const QColor& p_color)
+{
+    return VynColorUtils::contrastingColorLight(p_color);
+}
+
+QColor VynUIQmlConstants::blackOrWhiteContrastingColor(const QColor& p_color)
+{
+    return VynColorUtils::blackOrWhiteContrastingColor(p_color);
+}
+
+QColor VynUIQmlConstants::blackOrWhiteContrastingColorExtreme(const QColor& p_color)
+{
+    return VynColorUtils::blackOrWhiteContrastingColorExtreme(p_color);
+}
+
+QColor VynUIQmlConstants::colorWithRGBColor(const VynRGBColor& p_color)
+{
+    return VynColorUtils::colorWithRGBColor(p_color);
+}
+
+QColor VynUIQmlConstants::colorFromRGBColorString(const QString& p_text)
+{
+    return VynColorUtils::colorFromRGBColorString(p_text);
+}
+
+VynRGBColor VynUIQmlConstants::rgbColorFromColor(const QColor& p_color)
+{
+    return VynColorUtils::rgbColorFromColor(p_color);
+}
+
+VynRGBColor VynUIQmlConstants::rgbColorMake(double p_red, double p_green, double p_blue,
+                                            double p_alpha)
+{
+    return VynColorUtils::rgbColorMake(p_red, p_green, p_blue, p_alpha);
+}
+
+VynRGBColor VynUIQmlConstants::rgbColorZero()
+{
+    return VynColorUtils::rgbColorZero();
+}
+
+QColor VynUIQmlConstants::glowColorWithAlpha(const QColor& p_color, double p_alpha)
+{
+    return VynColorUtils::glowColorWithAlpha(p_color, p_alpha);
+}
+
+QColor VynUIQmlConstants::noAlphaColorWithAlpha(const QColor& p_color, double p_alpha,
+                                                const QColor& p_background)
+{
+    return VynColorUtils::noAlphaColorWithAlpha(p_color, p_alpha, p_background);
+}
+
+// Level-meter colours.
+
+int VynUIQmlConstants::vuMeterOnColorsCount()
+{
+    return VynVUMeterConstants::kVynVUMeterOnColorsCount;
+}
+
+QColor VynUIQmlConstants::vuMeterOnColorForIndex(int p_index)
+{
+    return VynColorUtils::colorWithRGBColor(
+        VynVUMeterConstants::kVynVUMeterOnColors[meterLevel(p_index)]);
+}
+
+QColor VynUIQmlConstants::vuMeterGlowColorForIndex(int p_index, VynColorUtils::VynStyle p_style)
+{
+    const int entry =
+        VynColorUtils::styleIndex(p_style) * VynVUMeterConstants::kVynVUMeterOnColorsCount +
+        meterLevel(p_index);
+    return VynColorUtils::colorWithRGBColor(VynVUMeterConstants::kVynVUMeterGlowColors[entry]);
+}
+
+QColor VynUIQmlConstants::vuMeterOffColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorUtils::colorWithRGBColor(
+        VynVUMeterConstants::kVynVUMeterOffColor[VynColorUtils::styleIndex(p_style)]);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vyncolorappearance.h"
 #include "vyncolorutils.h"
 #include "vynuiglobal.h"
 #include "vynviewutils.h"
@@ -7,6 +8,8 @@
 
 #include <vyneqconstants.h>
 
+#include <QColor>
+#include <QList>
 #include <QObject>
 #include <QPointF>
 #include <QRectF>
@@ -25,7 +28,8 @@ class QQmlEngine;
     The catalogue every QML document of the module reads its metrics from:
     sizes, margins, corner radii, line widths, font sizes and shadow sizes,
     fixed ratios, window and popover sizes, graph axis labels, EQ band images,
-    drag-and-drop mime types, and forwarders to the geometry utilities.
+    drag-and-drop mime types, colours by style, and forwarders to the geometry
+    utilities.
 
     One object serves every QML engine of the process: the singleton is created
     on first use, owned by the library (never by an engine) and lives until the
@@ -39,6 +43,7 @@ class QQmlEngine;
     Default arguments. A missing ratio is 1.0, a missing control size is
     VynControlSizeRegular and a missing style VynStyleDark; QML sees the shorter
     forms as overloads, so fontSize() is 13 and fontSize(VynControlSizeMini) 9.
+    A style can be left out only where every argument after it can be too.
 
     Sizes outside a table. A control-size table answers for a size it does not
     define with its nearest defined row: a size below Mini reads the Mini row,
@@ -803,6 +808,369 @@ public:
     Q_INVOKABLE static VynVUMeterConstants::VynVUMetreTickMarkConfig
     vuMeterTickMarksConfigForValues(int p_actualCellsLength, int p_minValue, int p_maxValue,
                                     int p_actualDistanceBetweenTicks);
+
+    // Colours. Each member answers what its namesake in VynColorAppearance (or, for the
+    // colour arithmetic, VynColorUtils) answers for the same arguments; a style left out is
+    // VynStyleDark. Out-parameters of the appearance rules are not offered to QML.
+
+    //! VynColorUtils::backgroundStyle(): the style whose controls read on \a p_color.
+    Q_INVOKABLE static VynColorUtils::VynStyle styleForColor(const QColor& p_color);
+    //! VynColorUtils::backgroundStyleExtreme().
+    Q_INVOKABLE static VynColorUtils::VynStyle styleForColorExtreme(const QColor& p_color);
+
+    Q_INVOKABLE static int colorFactoryCount();
+    Q_INVOKABLE static QColor colorFactory(int p_index);
+    Q_INVOKABLE static VynRGBColor rgbColorFactoryIndex(int p_index);
+    Q_INVOKABLE static QColor
+    readableColorFactoryForStyle(int p_index,
+                                 VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    primaryColorFactoryForStyle(int p_index,
+                                VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    secondaryColorFactoryForStyle(int p_index,
+                                  VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    tertiaryColorFactoryForStyle(int p_index,
+                                 VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    readableColorForStyle(const QColor& p_color,
+                          VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    primaryColorForStyle(const QColor& p_color,
+                         VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    secondaryColorForStyle(const QColor& p_color,
+                           VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    tertiaryColorForStyle(const QColor& p_color,
+                          VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor ledFillColorForState(int p_state);
+    Q_INVOKABLE static QColor ledBorderColorForState(int p_state);
+    Q_INVOKABLE static QColor ledGlowColorForState(int p_state);
+    Q_INVOKABLE static QColor ledTextColor();
+    Q_INVOKABLE static QColor yellowSelectionColor();
+    Q_INVOKABLE static QColor
+    controlBorderRedColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor controlColorForStyle(VynColorUtils::VynStyle p_style, int p_on);
+    Q_INVOKABLE static QColor controlBorderColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                         bool p_isDefault = false,
+                                                         bool p_isDestructive = false);
+    Q_INVOKABLE static QColor
+    controlFillColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor controlOnGradientColor(double p_location);
+    Q_INVOKABLE static QColor controlOnRedGradientColor(double p_location);
+    Q_INVOKABLE static QColor controlMixedGradientColor(double p_location);
+    Q_INVOKABLE static QColor controlOffGradientColorForStyle(
+        double p_location, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+        bool p_opaque = false, bool p_isDefault = false, bool p_isDestructive = false);
+    Q_INVOKABLE static QColor controlImageOnGradientColor(double p_location);
+    Q_INVOKABLE static QColor controlImageOffGradientColor(double p_location,
+                                                           bool p_isDefault = false,
+                                                           bool p_isDestructive = false);
+    Q_INVOKABLE static QColor controlMixedTickColor();
+    Q_INVOKABLE static QColor controlTextColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                       bool p_isDefault = false,
+                                                       bool p_isDestructive = false);
+    Q_INVOKABLE static QColor flatButtonFillColorForStyle(VynColorUtils::VynStyle p_style,
+                                                          int p_on);
+    Q_INVOKABLE static QColor flatButtonBorderColorForStyle(VynColorUtils::VynStyle p_style,
+                                                            int p_on);
+    Q_INVOKABLE static QColor flatButtonTextColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                          bool p_destructive = false);
+    Q_INVOKABLE static QColor flatButtonSeparatorColorForStyle(VynColorUtils::VynStyle p_style,
+                                                               int p_on);
+    Q_INVOKABLE static QColor templateButtonColorForStyle(VynColorUtils::VynStyle p_style,
+                                                          int p_on);
+    Q_INVOKABLE static QColor templateButtonTextColorForStyle(VynColorUtils::VynStyle p_style,
+                                                              int p_on);
+    Q_INVOKABLE static QColor inlineButtonColorForStyle(VynColorUtils::VynStyle p_style, int p_on);
+    Q_INVOKABLE static QColor toolbarButtonColorForStyle(VynColorUtils::VynStyle p_style, int p_on);
+    Q_INVOKABLE static QColor toolbarButtonTextColorForStyle(VynColorUtils::VynStyle p_style,
+                                                             int p_on);
+    Q_INVOKABLE static QColor
+    controlTouchOverColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    textViewTextColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                              int p_mixed = 0);
+    Q_INVOKABLE static QColor textViewBorderColorForStyle(VynColorUtils::VynStyle p_style,
+                                                          int p_mixed, bool p_editing);
+    Q_INVOKABLE static QColor bridgeIconColorForStyle(VynColorUtils::VynStyle p_style, int p_level,
+                                                      int p_mixed);
+    Q_INVOKABLE static QColor
+    badgeNewColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor liveModeButtonColor(int p_mode);
+    Q_INVOKABLE static QColor
+    liveModeButtonBackgroundColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    liveModeButtonFillColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor logRecordButtonColor();
+    Q_INVOKABLE static QColor
+    zoneIconFillColor(const QColor& p_color,
+                      VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    patchAnchorColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor patchLineNormalGradientColor(double p_location);
+    Q_INVOKABLE static QColor patchLineExpectingGradientColor(double p_location);
+    Q_INVOKABLE static QColor patchLineMultipleGradientColor(double p_location);
+    Q_INVOKABLE static QColor
+    patchDestructiveColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    viewBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                                int p_level = 0);
+    Q_INVOKABLE static QColor
+    textViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    tableViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    tableViewBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor tableSectionBackgroundColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark, bool p_warning = false);
+    Q_INVOKABLE static QColor
+    tableSectionBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                                    bool p_warning = false);
+    Q_INVOKABLE static QColor borderViewBackgroundColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    popoverBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    popoverBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    popoverShadowColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor tableViewCellBackgroundColorForStyle(VynColorUtils::VynStyle p_style,
+                                                                   bool p_selected, bool p_hasFocus,
+                                                                   bool p_alternate);
+    Q_INVOKABLE static QColor tableViewCellBackgroundColorForTintAndStyle(
+        const QColor& p_tint, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor tableViewCellRedOverlayColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    labelColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                       int p_level = 0);
+    Q_INVOKABLE static QColor coloredLabelColorForStyle(VynColorUtils::VynStyle p_style,
+                                                        int p_level);
+    Q_INVOKABLE static QColor
+    lineViewColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    splitViewLineColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor viewListButtonTitleColorForStyle(VynColorUtils::VynStyle p_style,
+                                                               int p_level, const QColor& p_color,
+                                                               bool p_mouseOver);
+    Q_INVOKABLE static QColor
+    viewListHeaderLineColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor viewListHeaderLineShadowColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    windowBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    windowBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    colorIconShadowColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    colorIconBorderColorForStyle(const QColor& p_color,
+                                 VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor tableLabelColorForStyle(VynColorUtils::VynStyle p_style,
+                                                      bool p_selected, bool p_hasFocus,
+                                                      int p_level = 0);
+    Q_INVOKABLE static QColor tableTintedLabelColorForStyle(const QColor& p_color,
+                                                            VynColorUtils::VynStyle p_style,
+                                                            bool p_selected);
+    Q_INVOKABLE static QColor
+    popupBackgroundColorForStyle(const QColor& p_color,
+                                 VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QList<QColor> backgroundColorsWithStops(const QColor& p_color,
+                                                               const QList<double>& p_stops);
+    Q_INVOKABLE static QList<QColor>
+    backgroundColorsForStyleWithStops(const QColor& p_color, VynColorUtils::VynStyle p_style,
+                                      const QList<double>& p_stops);
+    Q_INVOKABLE static QList<QColor>
+    backgroundColorsExtremeForStyleWithStops(const QColor& p_color, VynColorUtils::VynStyle p_style,
+                                             const QList<double>& p_stops);
+    Q_INVOKABLE static QColor circularUpdateTrackColor(const QColor& p_color);
+    Q_INVOKABLE static QColor networkMapBackgroundColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    networkMapShadowColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor mapImageGridColor();
+    Q_INVOKABLE static QColor
+    mapImageMissingColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    mapImageAnchorFillColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor mapImageAnchorBorderColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor networkPhantomCellFillColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor networkPhantomCellBorderColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor networkOutOfContainerFocusColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor networkCellBackgroundColorForStyle(
+        const QColor& p_tint, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+        bool p_selected = false);
+    Q_INVOKABLE static QColor
+    networkCellBorderColorForStyle(const QColor& p_tint,
+                                   VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                                   bool p_selected = false);
+    Q_INVOKABLE static QColor networkCellSelectedBorderColorForStyle(
+        const QColor& p_tint, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    networkCellEvenColorForStyle(const QColor& p_tint,
+                                 VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    networkCellOddColorForStyle(const QColor& p_tint,
+                                VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    lassoBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    lassoFillColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    taskButtonColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    alignmentGuideColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor tuningBorderViewBackgroundColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor screenCompositionBorderColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor tuningHeaderBackgroundColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark, int p_level = 0);
+    Q_INVOKABLE static QColor
+    tuningStatusLabelColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                                   int p_level = 0);
+    Q_INVOKABLE static QColor
+    tuningStatusWarningColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    tuningProductLabelColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor tuningGlobalViewBackgroundColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    vuMeterBorderColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    vuMeterFillColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    vuMeterTickMarkColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqThumbnailOnBkgGradientColorForStyle(
+        double p_location, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqThumbnailOffBkgGradientColorForStyle(
+        double p_location, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqThumbnailMixedBkgGradientColorForStyle(
+        double p_location, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqThumbColorForStyle(VynColorUtils::VynStyle p_style, bool p_selected,
+                                                   int p_on);
+    Q_INVOKABLE static QColor eqTypeCurveColorForStyle(VynColorUtils::VynStyle p_style, int p_on);
+    Q_INVOKABLE static QColor eqCurveGradientColorForStyle(VynColorUtils::VynStyle p_style,
+                                                           int p_on, int p_curveIndex,
+                                                           int p_numberOfCurves);
+    Q_INVOKABLE static QColor
+    eqThumbnailGridColorsForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqThumbnailLeftTextColor();
+    Q_INVOKABLE static QColor eqThumbnailLeftBkgOnColor();
+    Q_INVOKABLE static QColor eqThumbnailLeftBkgOffColor();
+    Q_INVOKABLE static QColor eqThumbnailLeftBkgMixedColor();
+    Q_INVOKABLE static QColor
+    eqThumbnailRightOnColorsForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqThumbnailRightOffColorsForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqThumbnailRightMixedColorsForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqThumbnailEmptyColor();
+    Q_INVOKABLE static QColor
+    eqThumbnailBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    eqGraphArrayEQFillColorsForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqGraphArrayEQBorderColorsForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    eqGraphLabelColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    eqGraphAxisMainColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqGraphAxisSecondaryColorForStyle(
+        VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor eqGraphBackgroundGradientColor(const QColor& p_tint,
+                                                             VynColorUtils::VynStyle p_style,
+                                                             int p_position);
+    Q_INVOKABLE static QColor
+    recapHeaderGradientColor(const QColor& p_tint, VynColorUtils::VynStyle p_style, int p_position);
+    Q_INVOKABLE static QColor graphBackgroundTransformedColor(const QColor& p_color,
+                                                              VynColorUtils::VynStyle p_style,
+                                                              int p_firstOrSecond);
+    Q_INVOKABLE static QColor graphThumbLabelBackgroundTransformedColor(
+        const QColor& p_color, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    barGraphPercentTransformedColor(const QColor& p_color,
+                                    VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor barGraphHighlightTransformedColor(
+        const QColor& p_color, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor logGraphInfoColor(int p_paramFamily);
+    Q_INVOKABLE static QColor logGraphMarkColor(const QColor& p_infoColor);
+    Q_INVOKABLE static QColor
+    logGraphAxisColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    logGraphLabelColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                       int p_timeOrDay = 0);
+    Q_INVOKABLE static QColor
+    logGraphLabelShadowColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    logGraphInfoNoGraphColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    logTimeSliderBreakColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    logTimeSliderLabelColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    logGraphBreakFillColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    logGraphBreakBorderColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    logKeyFactsTitleColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    logGraphInfoColor2(const QColor& p_color,
+                       VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+
+    // Colour arithmetic, forwarded to VynColorUtils.
+    Q_INVOKABLE static QColor colorWithRGBAffineTransformA(const QColor& p_color, double p_a,
+                                                           double p_b, double p_alpha);
+    Q_INVOKABLE static QColor colorByIncreasingLuminosityWithScale(const QColor& p_color,
+                                                                   double p_scale, double p_offset);
+    Q_INVOKABLE static QColor colorBySettingBrightness(const QColor& p_color, double p_brightness);
+    Q_INVOKABLE static QColor colorBySettingAlpha(const QColor& p_color, double p_alpha);
+    Q_INVOKABLE static QColor colorByIncreasingSaturationWithScale(const QColor& p_color,
+                                                                   double p_scale, double p_offset);
+    Q_INVOKABLE static QColor colorBySettingSaturation(const QColor& p_color, double p_saturation);
+    Q_INVOKABLE static QColor colorWithColorAndMaxDistance(const QColor& p_color,
+                                                           double p_distance);
+    Q_INVOKABLE static QColor noAlphaColorOverColor(const QColor& p_color,
+                                                    const QColor& p_background);
+    Q_INVOKABLE static QColor colorByOverlayingColor(const QColor& p_main, const QColor& p_top);
+    Q_INVOKABLE static QColor contrastingColor(const QColor& p_color);
+    Q_INVOKABLE static QColor contrastingColorLight(const QColor& p_color);
+    Q_INVOKABLE static QColor blackOrWhiteContrastingColor(const QColor& p_color);
+    Q_INVOKABLE static QColor blackOrWhiteContrastingColorExtreme(const QColor& p_color);
+    Q_INVOKABLE static QColor colorWithRGBColor(const VynRGBColor& p_color);
+    Q_INVOKABLE static QColor colorFromRGBColorString(const QString& p_text);
+    Q_INVOKABLE static VynRGBColor rgbColorFromColor(const QColor& p_color);
+    Q_INVOKABLE static VynRGBColor rgbColorMake(double p_red, double p_green, double p_blue,
+                                                double p_alpha = 1.0);
+    Q_INVOKABLE static VynRGBColor rgbColorZero();
+    Q_INVOKABLE static QColor glowColorWithAlpha(const QColor& p_color, double p_alpha);
+    Q_INVOKABLE static QColor noAlphaColorWithAlpha(const QColor& p_color, double p_alpha,
+                                                    const QColor& p_background = QColor());
+
+    // Level-meter colours, from the VynVUMeterConstants tables.
+
+    //! 32: the number of colours of a lit meter.
+    Q_INVOKABLE static int vuMeterOnColorsCount();
+    /*!
+        The colour of lit cell level \a p_index, 0 (bottom) to 31 (top). The
+        index is read as unsigned and limited to 31, so a negative index gives
+        the top colour.
+    */
+    Q_INVOKABLE static QColor vuMeterOnColorForIndex(int p_index);
+    //! The glow of a hold cell at level \a p_index (read as for vuMeterOnColorForIndex()).
+    Q_INVOKABLE static QColor
+    vuMeterGlowColorForIndex(int p_index,
+                             VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    //! The colour of unlit cells.
+    Q_INVOKABLE static QColor
+    vuMeterOffColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
 
 private:
     explicit VynUIQmlConstants(QObject* p_parent = nullptr);

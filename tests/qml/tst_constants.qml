@@ -137,4 +137,34 @@ TestCase {
         mouseClick(testCase, control.width + 2, control.height + 2)
         compare(control.clicks, 1)
     }
+
+    function test_colours() {
+        // A left-out style is Dark.
+        compare(VynUIQmlConstants.labelColorForStyle(),
+                VynUIQmlConstants.labelColorForStyle(VynColorUtils.VynStyleDark))
+        verify(VynUIQmlConstants.labelColorForStyle(VynColorUtils.VynStyleLight)
+               !== VynUIQmlConstants.labelColorForStyle(VynColorUtils.VynStyleDark))
+        compare(VynUIQmlConstants.vuMeterOffColor(), Qt.rgba(0.2, 0.2, 0.25, 1))
+        compare(VynUIQmlConstants.vuMeterOffColor(VynColorUtils.VynStyleLight),
+                Qt.rgba(0.3, 0.3, 0.35, 1))
+        compare(VynUIQmlConstants.vuMeterOnColorForIndex(-1), Qt.rgba(1, 0.1, 0.12, 1))
+        compare(VynUIQmlConstants.vuMeterGlowColorForIndex(1), Qt.rgba(0.36, 0.83, 1, 1))
+        compare(VynUIQmlConstants.vuMeterOnColorsCount(), 32)
+        compare(VynUIQmlConstants.styleForColor(Qt.rgba(0.5, 0.5, 0.5, 1)), VynColorUtils.VynStyleDark)
+        compare(VynUIQmlConstants.styleForColor("white"), VynColorUtils.VynStyleLight)
+
+        const stops = VynUIQmlConstants.backgroundColorsForStyleWithStops("#3366cc",
+                                                                          VynColorUtils.VynStyleLight,
+                                                                          [0.25, 0.75])
+        compare(stops.length, 4)
+        const ends = VynUIQmlConstants.backgroundColorsForStyleWithStops("#3366cc",
+                                                                         VynColorUtils.VynStyleLight,
+                                                                         [])
+        compare(ends.length, 2)
+        verify(Qt.colorEqual(stops[0], ends[0]))
+        verify(Qt.colorEqual(stops[3], ends[1]))
+        const rgb = VynUIQmlConstants.rgbColorMake(0.25, 0.5, 0.75)
+        compare(rgb.alpha, 1)
+        compare(VynUIQmlConstants.colorWithRGBColor(rgb), Qt.rgba(0.25, 0.5, 0.75, 1))
+    }
 }

@@ -1,3 +1,4 @@
+#include <vyncolorappearance.h>
 #include <vynuiplugin.h>
 #include <vynuiqmlconstants.h>
 #include <vynviewconstants.h>
@@ -109,6 +110,13 @@ private slots:
 
     void singletonSharedByEngines();
     void registeredTypes();
+
+    void colorMembersPresent();
+    void colorForwarders_data();
+    void colorForwarders();
+    void meterColors_data();
+    void meterColors();
+    void styleForColor();
 };
 
 void tst_QmlConstants::initTestCase()
@@ -757,6 +765,300 @@ void tst_QmlConstants::registeredTypes()
 
     QCOMPARE(QByteArray(VynViewConstants::staticMetaObject.className()),
              QByteArray("VynViewConstants"));
+}
+
+void tst_QmlConstants::colorMembersPresent()
+{
+    // Every colour member QML documents call is invokable.
+    const char* const names[] = {
+        "colorFactoryCount",
+        "colorFactory",
+        "rgbColorFactoryIndex",
+        "readableColorFactoryForStyle",
+        "primaryColorFactoryForStyle",
+        "secondaryColorFactoryForStyle",
+        "tertiaryColorFactoryForStyle",
+        "readableColorForStyle",
+        "primaryColorForStyle",
+        "secondaryColorForStyle",
+        "tertiaryColorForStyle",
+        "ledFillColorForState",
+        "ledBorderColorForState",
+        "ledGlowColorForState",
+        "ledTextColor",
+        "yellowSelectionColor",
+        "controlBorderRedColorForStyle",
+        "controlColorForStyle",
+        "controlBorderColorForStyle",
+        "controlFillColor",
+        "controlOnGradientColor",
+        "controlOnRedGradientColor",
+        "controlMixedGradientColor",
+        "controlOffGradientColorForStyle",
+        "controlImageOnGradientColor",
+        "controlImageOffGradientColor",
+        "controlMixedTickColor",
+        "controlTextColorForStyle",
+        "flatButtonFillColorForStyle",
+        "flatButtonBorderColorForStyle",
+        "flatButtonTextColorForStyle",
+        "flatButtonSeparatorColorForStyle",
+        "templateButtonColorForStyle",
+        "templateButtonTextColorForStyle",
+        "inlineButtonColorForStyle",
+        "toolbarButtonColorForStyle",
+        "toolbarButtonTextColorForStyle",
+        "controlTouchOverColorForStyle",
+        "textViewTextColorForStyle",
+        "textViewBorderColorForStyle",
+        "bridgeIconColorForStyle",
+        "badgeNewColorForStyle",
+        "liveModeButtonColor",
+        "liveModeButtonBackgroundColor",
+        "liveModeButtonFillColor",
+        "logRecordButtonColor",
+        "zoneIconFillColor",
+        "patchAnchorColor",
+        "patchLineNormalGradientColor",
+        "patchLineExpectingGradientColor",
+        "patchLineMultipleGradientColor",
+        "patchDestructiveColor",
+        "viewBackgroundColorForStyle",
+        "textViewBackgroundColorForStyle",
+        "tableViewBackgroundColorForStyle",
+        "tableViewBorderColorForStyle",
+        "tableSectionBackgroundColorForStyle",
+        "tableSectionBorderColorForStyle",
+        "borderViewBackgroundColorForStyle",
+        "popoverBackgroundColorForStyle",
+        "popoverBorderColorForStyle",
+        "popoverShadowColorForStyle",
+        "tableViewCellBackgroundColorForStyle",
+        "tableViewCellBackgroundColorForTintAndStyle",
+        "tableViewCellRedOverlayColorForStyle",
+        "labelColorForStyle",
+        "coloredLabelColorForStyle",
+        "lineViewColorForStyle",
+        "splitViewLineColorForStyle",
+        "viewListButtonTitleColorForStyle",
+        "viewListHeaderLineColorForStyle",
+        "viewListHeaderLineShadowColorForStyle",
+        "windowBackgroundColorForStyle",
+        "windowBorderColorForStyle",
+        "colorIconShadowColorForStyle",
+        "colorIconBorderColorForStyle",
+        "tableLabelColorForStyle",
+        "tableTintedLabelColorForStyle",
+        "popupBackgroundColorForStyle",
+        "backgroundColorsWithStops",
+        "backgroundColorsForStyleWithStops",
+        "backgroundColorsExtremeForStyleWithStops",
+        "circularUpdateTrackColor",
+        "networkMapBackgroundColorForStyle",
+        "networkMapShadowColorForStyle",
+        "mapImageGridColor",
+        "mapImageMissingColorForStyle",
+        "mapImageAnchorFillColorForStyle",
+        "mapImageAnchorBorderColorForStyle",
+        "networkPhantomCellFillColorForStyle",
+        "networkPhantomCellBorderColorForStyle",
+        "networkOutOfContainerFocusColorForStyle",
+        "networkCellBackgroundColorForStyle",
+        "networkCellBorderColorForStyle",
+        "networkCellSelectedBorderColorForStyle",
+        "networkCellEvenColorForStyle",
+        "networkCellOddColorForStyle",
+        "lassoBorderColorForStyle",
+        "lassoFillColorForStyle",
+        "taskButtonColorForStyle",
+        "alignmentGuideColorForStyle",
+        "tuningBorderViewBackgroundColorForStyle",
+        "screenCompositionBorderColorForStyle",
+        "tuningHeaderBackgroundColorForStyle",
+        "tuningStatusLabelColorForStyle",
+        "tuningStatusWarningColorForStyle",
+        "tuningProductLabelColorForStyle",
+        "tuningGlobalViewBackgroundColorForStyle",
+        "vuMeterBorderColor",
+        "vuMeterFillColor",
+        "vuMeterTickMarkColor",
+        "eqThumbnailOnBkgGradientColorForStyle",
+        "eqThumbnailOffBkgGradientColorForStyle",
+        "eqThumbnailMixedBkgGradientColorForStyle",
+        "eqThumbColorForStyle",
+        "eqTypeCurveColorForStyle",
+        "eqCurveGradientColorForStyle",
+        "eqThumbnailGridColorsForStyle",
+        "eqThumbnailLeftTextColor",
+        "eqThumbnailLeftBkgOnColor",
+        "eqThumbnailLeftBkgOffColor",
+        "eqThumbnailLeftBkgMixedColor",
+        "eqThumbnailRightOnColorsForStyle",
+        "eqThumbnailRightOffColorsForStyle",
+        "eqThumbnailRightMixedColorsForStyle",
+        "eqThumbnailEmptyColor",
+        "eqThumbnailBorderColorForStyle",
+        "eqGraphArrayEQFillColorsForStyle",
+        "eqGraphArrayEQBorderColorsForStyle",
+        "eqGraphLabelColorForStyle",
+        "eqGraphAxisMainColorForStyle",
+        "eqGraphAxisSecondaryColorForStyle",
+        "eqGraphBackgroundGradientColor",
+        "recapHeaderGradientColor",
+        "graphBackgroundTransformedColor",
+        "graphThumbLabelBackgroundTransformedColor",
+        "barGraphPercentTransformedColor",
+        "barGraphHighlightTransformedColor",
+        "logGraphInfoColor",
+        "logGraphMarkColor",
+        "logGraphAxisColor",
+        "logGraphLabelColor",
+        "logGraphLabelShadowColor",
+        "logGraphInfoNoGraphColor",
+        "logTimeSliderBreakColor",
+        "logTimeSliderLabelColor",
+        "logGraphBreakFillColor",
+        "logGraphBreakBorderColor",
+        "logKeyFactsTitleColor",
+        "logGraphInfoColor2",
+        "colorWithRGBAffineTransformA",
+        "colorByIncreasingLuminosityWithScale",
+        "colorBySettingBrightness",
+        "colorBySettingAlpha",
+        "colorByIncreasingSaturationWithScale",
+        "colorBySettingSaturation",
+        "colorWithColorAndMaxDistance",
+        "noAlphaColorOverColor",
+        "noAlphaColorWithAlpha",
+        "colorByOverlayingColor",
+        "contrastingColor",
+        "contrastingColorLight",
+        "blackOrWhiteContrastingColor",
+        "blackOrWhiteContrastingColorExtreme",
+        "colorWithRGBColor",
+        "colorFromRGBColorString",
+        "rgbColorFromColor",
+        "rgbColorMake",
+        "rgbColorZero",
+        "glowColorWithAlpha",
+        "styleForColor",
+        "styleForColorExtreme",
+        "vuMeterOffColor",
+        "vuMeterOnColorForIndex",
+        "vuMeterGlowColorForIndex",
+        "vuMeterOnColorsCount",
+    };
+    QSet<QByteArray> invokables;
+    const QMetaObject* meta = &VynUIQmlConstants::staticMetaObject;
+    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i)
+        invokables.insert(meta->method(i).name());
+    for (const char* name : names)
+        QVERIFY2(invokables.contains(name), name);
+}
+
+void tst_QmlConstants::colorForwarders_data()
+{
+    QTest::addColumn<QColor>("got");
+    QTest::addColumn<QColor>("expected");
+
+    using A = VynColorAppearance;
+    using C = VynUIQmlConstants;
+    const VynColorUtils::VynStyle light = VynColorUtils::VynStyleLight;
+    const VynColorUtils::VynStyle dark = VynColorUtils::VynStyleDark;
+    const QColor tint = QColor::fromRgbF(0.2f, 0.5f, 0.9f, 1.0f);
+
+    // Left-out styles are Dark.
+    QTest::newRow("labelColorForStyle()") << C::labelColorForStyle() << A::labelColorForStyle(dark);
+    QTest::newRow("windowBackgroundColorForStyle()")
+        << C::windowBackgroundColorForStyle() << A::windowBackgroundColorForStyle(dark);
+    QTest::newRow("logGraphLabelColor()") << C::logGraphLabelColor() << A::logGraphLabelColor(dark);
+    QTest::newRow("controlOffGradientColorForStyle(0.5)")
+        << C::controlOffGradientColorForStyle(0.5) << A::controlOffGradientColorForStyle(0.5, dark);
+    QTest::newRow("readableColorForStyle(tint)")
+        << C::readableColorForStyle(tint) << A::readableColorForStyle(tint, dark);
+    // Given arguments reach the rule in their places.
+    QTest::newRow("labelColorForStyle(Light, 2)")
+        << C::labelColorForStyle(light, 2) << A::labelColorForStyle(light, 2);
+    QTest::newRow("controlColorForStyle(Light, on)")
+        << C::controlColorForStyle(light, 1) << A::controlColorForStyle(light, 1);
+    QTest::newRow("controlTextColorForStyle(Dark, mixed, default)")
+        << C::controlTextColorForStyle(dark, 2, true) << A::controlTextColorForStyle(dark, 2, true);
+    QTest::newRow("eqCurveGradientColorForStyle")
+        << C::eqCurveGradientColorForStyle(light, 1, 2, 5)
+        << A::eqCurveGradientColorForStyle(light, 1, 2, 5);
+    QTest::newRow("networkCellBorderColorForStyle selected")
+        << C::networkCellBorderColorForStyle(tint, light, true)
+        << A::networkCellBorderColorForStyle(tint, light, true);
+    QTest::newRow("eqGraphBackgroundGradientColor")
+        << C::eqGraphBackgroundGradientColor(tint, light, 1)
+        << A::eqGraphBackgroundGradientColor(tint, light, 1);
+    QTest::newRow("vuMeterFillColor(Light)")
+        << C::vuMeterFillColor(light) << A::vuMeterFillColor(light);
+    QTest::newRow("glowColorWithAlpha")
+        << C::glowColorWithAlpha(tint, 0.3) << VynColorUtils::glowColorWithAlpha(tint, 0.3);
+    QTest::newRow("noAlphaColorWithAlpha")
+        << C::noAlphaColorWithAlpha(tint, 0.5, Qt::white)
+        << VynColorUtils::noAlphaColorWithAlpha(tint, 0.5, Qt::white);
+}
+
+void tst_QmlConstants::colorForwarders()
+{
+    QFETCH(QColor, got);
+    QFETCH(QColor, expected);
+    QVERIFY(got.isValid());
+    QCOMPARE(got, expected);
+}
+
+void tst_QmlConstants::meterColors_data()
+{
+    QTest::addColumn<QColor>("got");
+    QTest::addColumn<QColor>("expected");
+    const auto rgb = [](double r, double g, double b) { return QColor::fromRgbF(r, g, b, 1); };
+    const VynColorUtils::VynStyle light = VynColorUtils::VynStyleLight;
+    const VynColorUtils::VynStyle dark = VynColorUtils::VynStyleDark;
+
+    QTest::newRow("on 0") << VynUIQmlConstants::vuMeterOnColorForIndex(0) << rgb(0.55, 0.55, 0.55);
+    QTest::newRow("on 21") << VynUIQmlConstants::vuMeterOnColorForIndex(21) << rgb(0.31, 0.57, 1);
+    QTest::newRow("on 22") << VynUIQmlConstants::vuMeterOnColorForIndex(22) << rgb(0.78, 0.23, 1);
+    QTest::newRow("on 31") << VynUIQmlConstants::vuMeterOnColorForIndex(31) << rgb(1, 0.1, 0.12);
+    QTest::newRow("on past the top")
+        << VynUIQmlConstants::vuMeterOnColorForIndex(500) << rgb(1, 0.1, 0.12);
+    QTest::newRow("on negative is the top")
+        << VynUIQmlConstants::vuMeterOnColorForIndex(-1) << rgb(1, 0.1, 0.12);
+    QTest::newRow("glow light 1") << VynUIQmlConstants::vuMeterGlowColorForIndex(1, light)
+                                  << rgb(0.56, 0.88, 1);
+    QTest::newRow("glow dark 1") << VynUIQmlConstants::vuMeterGlowColorForIndex(1, dark)
+                                 << rgb(0.36, 0.83, 1);
+    QTest::newRow("glow default style")
+        << VynUIQmlConstants::vuMeterGlowColorForIndex(30) << rgb(1, 0.33, 0.16);
+    QTest::newRow("glow light top")
+        << VynUIQmlConstants::vuMeterGlowColorForIndex(-7, light) << rgb(1, 0.57, 0.35);
+    QTest::newRow("glow style past Dark")
+        << VynUIQmlConstants::vuMeterGlowColorForIndex(0, VynColorUtils::VynStyle(7))
+        << rgb(0.81, 0.81, 0.81);
+    QTest::newRow("off light") << VynUIQmlConstants::vuMeterOffColor(light) << rgb(0.3, 0.3, 0.35);
+    QTest::newRow("off default") << VynUIQmlConstants::vuMeterOffColor() << rgb(0.2, 0.2, 0.25);
+}
+
+void tst_QmlConstants::meterColors()
+{
+    QFETCH(QColor, got);
+    QFETCH(QColor, expected);
+    QCOMPARE(got, expected);
+    QCOMPARE(VynUIQmlConstants::vuMeterOnColorsCount(), 32);
+}
+
+void tst_QmlConstants::styleForColor()
+{
+    QCOMPARE(VynUIQmlConstants::styleForColor(QColor::fromRgbF(0.5, 0.5, 0.5)),
+             VynColorUtils::VynStyleDark);
+    QCOMPARE(VynUIQmlConstants::styleForColor(QColor::fromRgbF(0.51, 0.51, 0.51)),
+             VynColorUtils::VynStyleLight);
+    // The extreme variant asks for the dark style only below 0.65 luminance.
+    QCOMPARE(VynUIQmlConstants::styleForColorExtreme(QColor::fromRgbF(0.6, 0.6, 0.6)),
+             VynColorUtils::VynStyleDark);
+    QCOMPARE(VynUIQmlConstants::styleForColorExtreme(QColor::fromRgbF(0.7, 0.7, 0.7)),
+             VynColorUtils::VynStyleLight);
 }
 
 QTEST_MAIN(tst_QmlConstants)
