@@ -1,9 +1,11 @@
 #include "vyncommon.h"
 
 #include "vyncommonconstants.h"
+#include "vyneqconstants.h"
 #include "vynfamilyutils.h"
 #include "vynlocalizable.h"
 #include "vynproxyparampath.h"
+#include "vynrgbcolor.h"
 
 #include <QMetaType>
 
@@ -18,6 +20,8 @@ void initializeTypes()
     qRegisterMetaType<VynProxyParamPath>();
     qRegisterMetaType<VynFamilyUtils::VynDeviceFamily>();
     qRegisterMetaType<VynCommonConstants::VynSecurityType>();
+    qRegisterMetaType<VynEQConstants::VynEQBandType>();
+    qRegisterMetaType<VynRGBColor>();
 }
 
 void onOpeningModule()

@@ -3,6 +3,7 @@
 #include "vyncolorutils.h"
 #include "vynuilocalizable.h"
 #include "vynviewutils.h"
+#include "vynvumeterconstants.h"
 
 #include <qtcommons.h>
 #include <vyncommon.h>
@@ -62,6 +63,7 @@ void VynUIPlugin::initializeTypes()
     registerWithShortName<VynResizeAnchor>();
     registerWithShortName<VynModalResponse>();
     registerWithShortName<VynResizeSettings>();
+    registerWithShortName<VynVUMeterConstants::VynVUMetreTickMarkConfig>();
     registerWithShortName<VynSpinBoxValue>();
     registerWithShortName<VynUIComponentType>();
 
