@@ -171,12 +171,13 @@ void VynUIComponentSet::onComponentParamPathChanged()
 
 void VynUIComponentSet::onComponentDestroyed(QObject* p_sender)
 {
-    // The object is being destroyed: compare pointers only, never call into it.
-    auto* c = static_cast<VynUIComponent*>(p_sender);
-    if (!p_sender || !m_components.removeOne(c))
+    // The object is being destroyed: it is no longer a VynUIComponent. Compare addresses as
+    // QObject pointers only, never cast down to it or call into it.
+    auto isSender = [p_sender](VynUIComponent* c) { return static_cast<QObject*>(c) == p_sender; };
+    if (!p_sender || m_components.removeIf(isSender) == 0)
         return;
     for (auto it = m_byPath.begin(); it != m_byPath.end();) {
-        if (it->removeAll(c) > 0) {
+        if (it->removeIf(isSender) > 0) {
             // qDebug() writes to the logging category "default".
             qDebug().noquote() << "WARNING VynUIComponentSet::onComponentDestroyed: UI "
                                   "component was destroyed without being removed from its "
