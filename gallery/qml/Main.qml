@@ -14,7 +14,8 @@ ApplicationWindow {
     // Pages of the gallery, in the order of the side bar. A new page is a file in pages/
     // and one entry here; pages take the style from GalleryTheme.vynStyle.
     readonly property var pages: [
-        { title: "Overview", source: "pages/OverviewPage.qml" }
+        { title: "Overview", source: "pages/OverviewPage.qml" },
+        { title: "Style", source: "pages/StylePage.qml" }
     ]
 
     width: 1280
