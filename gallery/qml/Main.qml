@@ -15,6 +15,7 @@ ApplicationWindow {
     // and one entry here; pages take the style from GalleryTheme.vynStyle.
     readonly property var pages: [
         { title: "Overview", source: "pages/OverviewPage.qml" },
+        { title: "Style", source: "pages/StylePage.qml" },
         { title: "Components", source: "pages/ComponentsPage.qml" }
     ]
 
