@@ -1,5 +1,7 @@
 #include "vynuicomponent.h"
 
+#include "vynuiqmlconstants.h"
+
 #include <qapplicationmessage.h>
 #include <qloggermanager.h>
 
@@ -180,14 +182,12 @@ QString VynUIComponent::toStringValue()
 
 void VynUIComponent::presentConfirmChangeAlertIfNeeded(std::function<void()> completion)
 {
-    // The scene look-ups are the ones VynUIQmlConstants::windowControllerForQmlObject() and
-    // windowForQmlObject() forward to.
     QCoreWindowController* controller = m_windowController;
     if (!controller)
-        controller = QCoreWindowController::controllerForQmlObject(this);
+        controller = VynUIQmlConstants::windowControllerForQmlObject(this);
     if (!controller)
         return;
-    QQuickWindow* window = QCoreWindowController::windowForQmlObject(this);
+    QQuickWindow* window = VynUIQmlConstants::windowForQmlObject(this);
 
     QApplicationMessage::presentConfirmMessageIfNeededForSecurityType(
         m_securityType, m_securityAlertTitle, m_securityAlertMessage, -1,

@@ -4,6 +4,7 @@
 #include <vynfileutils.h>
 
 #include <QJSEngine>
+#include <QQuickWindow>
 #include <QWindow>
 
 #include <algorithm>
@@ -3073,4 +3074,95 @@ QColor VynUIQmlConstants::vuMeterOffColor(VynColorUtils::VynStyle p_style)
 {
     return VynColorUtils::colorWithRGBColor(
         VynVUMeterConstants::kVynVUMeterOffColor[VynColorUtils::styleIndex(p_style)]);
+}
+
+namespace {
+
+QList<QCoreWindowController*> controllersFrom(const QVariant& value)
+{
+    QList<QCoreWindowController*> controllers;
+    const auto add = [&controllers](const QVariant& item) {
+        if (auto* controller = qobject_cast<QCoreWindowController*>(item.value<QObject*>()))
+            controllers.append(controller);
+    };
+    if (value.metaType() == QMetaType::fromType<QVariantList>() ||
+        value.metaType() == QMetaType::fromType<QJSValue>()) {
+        const QVariantList list = value.metaType() == QMetaType::fromType<QJSValue>()
+                                      ? value.value<QJSValue>().toVariant().toList()
+                                      : value.toList();
+        for (const QVariant& item : list)
+            add(item);
+    } else {
+        add(value);
+    }
+    return controllers;
+}
+
+QPair<QString, QString> buttonPair(const QStringList& titles)
+{
+    return {titles.value(0), titles.value(1)};
+}
+
+QApplicationMessage::Completion completionFrom(const QJSValue& callback)
+{
+    if (!callback.isCallable())
+        return {};
+    return [callback](int response, bool isChecked, const QVariant&) {
+        QJSValue function(callback);
+        function.call({QJSValue(response), QJSValue(isChecked)});
+    };
+}
+
+} // namespace
+
+QCoreWindowController* VynUIQmlConstants::windowControllerForQmlObject(QObject* p_object)
+{
+    return QCoreWindowController::controllerForQmlObject(p_object);
+}
+
+QQuickWindow* VynUIQmlConstants::windowForQmlObject(QObject* p_object)
+{
+    return QCoreWindowController::windowForQmlObject(p_object);
+}
+
+QApplicationMessage*
+VynUIQmlConstants::presentBasicMessage(const QString& p_title, const QString& p_message, int p_tag,
+                                       int p_level, int p_type, const QString& p_actionTitle,
+                                       const QVariant& p_windowControllers, QObject* p_parent,
+                                       const QJSValue& p_completion, const QVariant& p_context)
+{
+    return QApplicationMessage::presentBasicMessage(
+        p_title, p_message, p_tag, p_level, p_type, p_actionTitle,
+        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context);
+}
+
+QApplicationMessage* VynUIQmlConstants::presentConfirmMessage(
+    const QString& p_title, const QString& p_message, int p_tag, int p_level, int p_type,
+    const QStringList& p_buttonTitles, const QVariant& p_windowControllers, QObject* p_parent,
+    const QJSValue& p_completion, const QVariant& p_context)
+{
+    return QApplicationMessage::presentConfirmMessage(
+        p_title, p_message, p_tag, p_level, p_type, buttonPair(p_buttonTitles),
+        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context);
+}
+
+QApplicationMessage*
+VynUIQmlConstants::presentCustomMessage(const QString& p_title, const QString& p_message, int p_tag,
+                                        int p_level, int p_type, const QStringList& p_actionTitles,
+                                        const QVariant& p_windowControllers, QObject* p_parent,
+                                        const QJSValue& p_completion, const QVariant& p_context)
+{
+    return QApplicationMessage::presentCustomMessage(
+        p_title, p_message, p_tag, p_level, p_type, p_actionTitles,
+        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context);
+}
+
+QApplicationMessage* VynUIQmlConstants::presentConfirmMessageIfNeededForSecurityType(
+    int p_securityType, const QString& p_title, const QString& p_message, int p_tag, int p_level,
+    int p_type, const QStringList& p_buttonTitles, const QVariant& p_windowControllers,
+    QObject* p_parent, const QJSValue& p_completion, const QVariant& p_context)
+{
+    return QApplicationMessage::presentConfirmMessageIfNeededForSecurityType(
+        p_securityType, p_title, p_message, p_tag, p_level, p_type, buttonPair(p_buttonTitles),
+        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context);
 }

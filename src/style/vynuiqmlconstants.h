@@ -9,9 +9,11 @@
 #include <vyneqconstants.h>
 
 #include <QColor>
+#include <QJSValue>
 #include <QList>
 #include <QObject>
 #include <QPointF>
+#include <QQuickWindow>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
@@ -20,6 +22,9 @@
 #include <QtQml/qqmlregistration.h>
 #include <QVariantList>
 #include <QWindow>
+
+#include <qapplicationmessage.h>
+#include <qcorewindowcontroller.h>
 
 class QJSEngine;
 class QQmlEngine;
@@ -119,6 +124,31 @@ public:
     Q_INVOKABLE static void
     setNativeTitleBarColorForStyle(QWindow* p_window,
                                    VynColorUtils::VynStylePreference p_preference);
+
+    // Host services. The look-ups walk from a QML object to its window and the window's
+    // controller (null when there is none). The presenters forward to the QApplicationMessage
+    // presenters of the same names and return the message (null when nothing is shown);
+    // windowControllers takes one controller or a list of them, actionTitles one text or a
+    // list, and the completion is called with (response, isChecked).
+    Q_INVOKABLE static QCoreWindowController* windowControllerForQmlObject(QObject* p_object);
+    Q_INVOKABLE static QQuickWindow* windowForQmlObject(QObject* p_object);
+    Q_INVOKABLE static QApplicationMessage* presentBasicMessage(
+        const QString& p_title, const QString& p_message, int p_tag, int p_level, int p_type,
+        const QString& p_actionTitle, const QVariant& p_windowControllers, QObject* p_parent,
+        const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
+    Q_INVOKABLE static QApplicationMessage* presentConfirmMessage(
+        const QString& p_title, const QString& p_message, int p_tag, int p_level, int p_type,
+        const QStringList& p_buttonTitles, const QVariant& p_windowControllers, QObject* p_parent,
+        const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
+    Q_INVOKABLE static QApplicationMessage* presentCustomMessage(
+        const QString& p_title, const QString& p_message, int p_tag, int p_level, int p_type,
+        const QStringList& p_actionTitles, const QVariant& p_windowControllers, QObject* p_parent,
+        const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
+    Q_INVOKABLE static QApplicationMessage* presentConfirmMessageIfNeededForSecurityType(
+        int p_securityType, const QString& p_title, const QString& p_message, int p_tag,
+        int p_level, int p_type, const QStringList& p_buttonTitles,
+        const QVariant& p_windowControllers, QObject* p_parent,
+        const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
 
     // Control-size tables: round(row[size] x ratio), rows given as
     // Mini | Small | Regular | Large (| ExtraLarge); corner radii unrounded.

@@ -104,6 +104,7 @@ private slots:
     void defaultPresenterShowsDialog();
 
     void windowControllerLookups();
+    void catalogueForwardsFromQml();
 };
 
 void tst_HostServices::transformerText_data()
@@ -433,6 +434,64 @@ void tst_HostServices::windowControllerLookups()
         other.setWindow(&shortLived);
     }
     QVERIFY(!other.window());
+}
+
+void tst_HostServices::catalogueForwardsFromQml()
+{
+    // What a control does on release of a protected parameter: find the window's controller
+    // and window through the catalogue and ask through the message service.
+    QQmlEngine engine;
+    engine.addImportPath(QStringLiteral(VYNUI_QML_IMPORT_PATH));
+    QQmlComponent component(&engine);
+    component.setData(R"(
+        import QtQuick
+        import VynUI 1.2
+        Window {
+            property var answers: []
+            property bool foundController: false
+            property bool foundWindow: false
+            Item {
+                id: control
+            }
+            function ask(securityType, asList) {
+                const controller = VynUIQmlConstants.windowControllerForQmlObject(control)
+                foundController = controller !== null
+                foundWindow = VynUIQmlConstants.windowForQmlObject(control) !== null
+                VynUIQmlConstants.presentConfirmMessageIfNeededForSecurityType(
+                    securityType, "Protected", "Change the gain?", -1,
+                    QApplicationMessage.Level_Warn, QApplicationMessage.Type_Popup, [],
+                    asList ? [controller] : controller, control,
+                    function(response) { answers = answers.concat([response]) })
+            }
+        })",
+                      QUrl());
+    QScopedPointer<QObject> root(component.create());
+    QVERIFY2(root, qPrintable(component.errorString()));
+    auto* window = qobject_cast<QQuickWindow*>(root.data());
+    QVERIFY(window);
+
+    QMetaObject::invokeMethod(root.data(), "ask", Q_ARG(QVariant, 1), Q_ARG(QVariant, false));
+    QVERIFY(root->property("foundWindow").toBool());
+    QVERIFY(!root->property("foundController").toBool());
+
+    QCoreWindowController controller(window);
+    AnsweringPresenter confirming(QApplicationMessage::Response_Confirm);
+    {
+        PresenterScope scope(&confirming);
+        QMetaObject::invokeMethod(root.data(), "ask", Q_ARG(QVariant, 1), Q_ARG(QVariant, true));
+        QVERIFY(root->property("foundController").toBool());
+        QCOMPARE(confirming.shown.size(), 1);
+        QCOMPARE(root->property("answers").toList(), QVariantList({0}));
+        // No confirmation needed: the completion runs at once, nothing is shown.
+        QMetaObject::invokeMethod(root.data(), "ask", Q_ARG(QVariant, 0), Q_ARG(QVariant, false));
+        QCOMPARE(confirming.shown.size(), 1);
+        QCOMPARE(root->property("answers").toList(), QVariantList({0, 0}));
+    }
+    AnsweringPresenter refusing(QApplicationMessage::Response_Cancel);
+    PresenterScope scope(&refusing);
+    QMetaObject::invokeMethod(root.data(), "ask", Q_ARG(QVariant, 1), Q_ARG(QVariant, false));
+    QCOMPARE(refusing.shown.size(), 1);
+    QCOMPARE(root->property("answers").toList(), QVariantList({0, 0}));
 }
 
 QTEST_MAIN(tst_HostServices)
