@@ -15,8 +15,8 @@ bool fuzzyEqual(double a, double b)
 }
 
 // The placement works on a compact copy of the labels so that the sweeps read plain
-// doubles from one array instead of chasing object pointers; the results are copied
-// back once. Every formula is evaluated in the same order as the label's own
+// doubles from small arrays instead of chasing object pointers; the results are
+// copied back once. Every formula is evaluated in the same order as the label's own
 // accessors so that the copy gives bit-identical results.
 struct Item
 {
@@ -24,29 +24,45 @@ struct Item
     double length;
     double half;
     double delta;
-    double margin;
-    bool visible;
 
     double left() const { return position + delta - half; }
-    double right() const { return left() + length; }
 };
 
-double overlap(const Item& a, const Item& b)
+struct Placement
 {
-    const double aLeft = a.left() - a.margin;
-    const double aRight = a.left() + a.length + a.margin;
-    const double bLeft = b.left() - b.margin;
-    const double bRight = b.left() + b.length + b.margin;
-    const double result = aLeft > bLeft ? bRight - aLeft : aRight - bLeft;
-    return result < 0.0 ? 0.0 : result;
-}
+    std::vector<Item> items;
+    std::vector<double> margins;
+    std::vector<char> visible;
+    bool hasMargins = false;
 
-// Clamps a step of item s so that it stays inside [min, max] and within half its
-// length of its anchor, the bounds applied in this order.
-double clampStep(double d, const Item& s, double min, double max)
+    int count() const { return int(items.size()); }
+
+    // The overlap of labels a and b, each widened by its margin; never negative.
+    double overlap(int a, int b) const
+    {
+        const Item& ia = items[size_t(a)];
+        const Item& ib = items[size_t(b)];
+        double aLeft = ia.left();
+        double aRight = aLeft + ia.length;
+        double bLeft = ib.left();
+        double bRight = bLeft + ib.length;
+        // Without margins the widening is skipped: adding or subtracting 0 changes at
+        // most the sign of a zero, which no comparison below distinguishes.
+        if (hasMargins) {
+            aLeft -= margins[size_t(a)];
+            aRight += margins[size_t(a)];
+            bLeft -= margins[size_t(b)];
+            bRight += margins[size_t(b)];
+        }
+        const double result = aLeft > bLeft ? bRight - aLeft : aRight - bLeft;
+        return result < 0.0 ? 0.0 : result;
+    }
+};
+
+// Clamps a step of a label (ends left and right) so that it stays inside [min, max]
+// and within half its length of its anchor, the bounds applied in this order.
+double clampStep(double d, const Item& s, double left, double right, double min, double max)
 {
-    const double left = s.left();
-    const double right = left + s.length;
     d = std::min(d, max - right);
     d = std::max(d, min - left);
     d = std::min(d, s.half - s.delta);
@@ -54,93 +70,114 @@ double clampStep(double d, const Item& s, double min, double max)
     return d;
 }
 
-void relax(std::vector<Item>& items, double min, double max)
+// One step of the relaxation for label i with j its next visible neighbour (count when
+// there is none). Returns whether it wrote the delta of i (bit 0) or of j (bit 1).
+int relaxStep(Placement& p, int i, int j, double min, double max)
 {
-    const int count = int(items.size());
+    Item& l = p.items[size_t(i)];
+    const double left = l.left();
+    const double right = left + l.length;
+    if (min > left) {
+        double d = std::min(min - left, l.half - l.delta);
+        d = std::max(d, -l.half - l.delta);
+        if (d == 0.0)
+            return 0;
+        l.delta += d;
+        return 1;
+    }
+    if (right > max) {
+        double d = std::max(l.half - l.delta, max - right);
+        if (d > -l.half - l.delta)
+            d = -l.half - l.delta;
+        if (d == 0.0)
+            return 0;
+        l.delta += d;
+        return 1;
+    }
+    if (j >= p.count())
+        return 0;
+    const double o = p.overlap(i, j);
+    const double s = -o * 0.5;
+    if (!(s < 0.0))
+        return 0;
+    if (s > -1.0) {
+        // A small overlap: only l moves, by half of it, without clamping.
+        l.delta += s;
+        return 1;
+    }
+    Item& n = p.items[size_t(j)];
+    const double leftN = n.left();
+    const double rightN = leftN + n.length;
+    double dL = clampStep(s, l, left, right, min, max);
+    const double dN = clampStep(dL + o, n, leftN, rightN, min, max);
+    dL = clampStep(dN - o, l, left, right, min, max);
+    int written = 0;
+    if (dN != 0.0) {
+        n.delta += dN;
+        written |= 2;
+    }
+    if (dL != 0.0) {
+        l.delta += dL;
+        written |= 1;
+    }
+    return written;
+}
+
+// The relaxation sweeps over the labels in list order. Visibility does not change
+// during it, so the next visible neighbour of every label is found once, and a sweep
+// is a plain pass over a compact array.
+void relax(Placement& p, double min, double max)
+{
+    const int count = p.count();
     if (count == 0)
         return;
 
-    // Visibility does not change during the relaxation, so the next visible
-    // neighbour of every item is found once.
-    std::vector<int> nextVisible(count);
+    // nextVisible[i]: the first visible label after i (count if none).
+    std::vector<int> nextVisible(static_cast<size_t>(count));
     int next = count;
     for (int i = count - 1; i >= 0; --i) {
-        nextVisible[i] = next;
-        if (items[i].visible)
+        nextVisible[size_t(i)] = next;
+        if (p.visible[size_t(i)])
             next = i;
     }
 
-    std::vector<double> before(count);
+    std::vector<double> before(static_cast<size_t>(count));
     for (int sweep = 0; sweep < kMaxSweeps; ++sweep) {
         for (int i = 0; i < count; ++i)
-            before[i] = items[i].delta;
+            before[size_t(i)] = p.items[size_t(i)].delta;
 
         for (int i = 0; i < count; ++i) {
-            Item& l = items[i];
-            if (!(l.position > -1.0))
-                continue;
-            const double left = l.left();
-            const double right = left + l.length;
-            if (min > left) {
-                double d = std::min(min - left, l.half - l.delta);
-                d = std::max(d, -l.half - l.delta);
-                if (d != 0.0)
-                    l.delta += d;
-            } else if (right > max) {
-                double d = std::max(l.half - l.delta, max - right);
-                if (d > -l.half - l.delta)
-                    d = -l.half - l.delta;
-                if (d != 0.0)
-                    l.delta += d;
-            } else {
-                const int j = nextVisible[i];
-                if (j >= count)
-                    continue;
-                Item& n = items[j];
-                const double o = overlap(l, n);
-                const double s = -o * 0.5;
-                if (!(s < 0.0))
-                    continue;
-                if (s > -1.0) {
-                    l.delta += s;
-                    continue;
-                }
-                double dL = clampStep(s, l, min, max);
-                const double dN = clampStep(dL + o, n, min, max);
-                dL = clampStep(dN - o, l, min, max);
-                if (dN != 0.0)
-                    n.delta += dN;
-                if (dL != 0.0)
-                    l.delta += dL;
-            }
+            if (p.items[size_t(i)].position > -1.0)
+                relaxStep(p, i, nextVisible[size_t(i)], min, max);
         }
 
         bool changed = false;
         for (int i = 0; i < count && !changed; ++i)
-            changed = before[i] != items[i].delta;
+            changed = before[size_t(i)] != p.items[size_t(i)].delta;
         if (!changed)
             break;
     }
 }
 
-void hide(std::vector<Item>& items, double min, double max)
+void hide(Placement& p, double min, double max)
 {
-    const int count = int(items.size());
+    const int count = p.count();
     int previousVisible = -1;
     for (int i = 0; i < count; ++i) {
-        Item& l = items[i];
+        const Item& l = p.items[size_t(i)];
+        char& visible = p.visible[size_t(i)];
         const double left = l.left();
         const double right = left + l.length;
         if (min > left) {
-            l.visible = false;
+            visible = false;
         } else if (right > max) {
-            l.visible = false;
+            visible = false;
         } else if ((l.delta < -l.half && i != count - 1) || (l.delta > l.half && i != 0)) {
-            l.visible = false;
-        } else if (l.visible && previousVisible >= 0 && overlap(l, items[previousVisible]) >= 1.0) {
-            l.visible = false;
+            visible = false;
+        } else if (visible && previousVisible >= 0 && p.overlap(i, previousVisible) >= 1.0) {
+            visible = false;
         }
-        if (l.visible)
+        if (visible)
             previousVisible = i;
     }
 }
@@ -151,20 +188,26 @@ void hide(std::vector<Item>& items, double min, double max)
 // helpers move that state between the labels and the compact copy.
 struct VynOptimizedLabelAccess
 {
-    static std::vector<Item> gather(const QList<VynOptimizedLabel*>& labels)
+    static Placement gather(const QList<VynOptimizedLabel*>& labels)
     {
-        std::vector<Item> items;
-        items.reserve(size_t(labels.size()));
-        for (const VynOptimizedLabel* label : labels)
-            items.push_back({label->m_position, label->m_length, label->m_halfLength,
-                             label->m_delta, label->m_margin, label->m_visible});
-        return items;
+        Placement p;
+        p.items.reserve(size_t(labels.size()));
+        p.margins.reserve(size_t(labels.size()));
+        p.visible.reserve(size_t(labels.size()));
+        for (const VynOptimizedLabel* label : labels) {
+            p.items.push_back(
+                {label->m_position, label->m_length, label->m_halfLength, label->m_delta});
+            p.margins.push_back(label->m_margin);
+            p.visible.push_back(label->m_visible);
+            p.hasMargins = p.hasMargins || label->m_margin != 0.0;
+        }
+        return p;
     }
-    static void scatter(const std::vector<Item>& items, const QList<VynOptimizedLabel*>& labels)
+    static void scatter(const Placement& p, const QList<VynOptimizedLabel*>& labels)
     {
         for (qsizetype i = 0; i < labels.size(); ++i) {
-            labels[i]->m_delta = items[size_t(i)].delta;
-            labels[i]->m_visible = items[size_t(i)].visible;
+            labels[i]->m_delta = p.items[size_t(i)].delta;
+            labels[i]->m_visible = p.visible[size_t(i)];
         }
     }
     static void setState(VynOptimizedLabel* label, double delta, bool visible)
@@ -209,10 +252,12 @@ double VynOptimizedLabel::getIntersectionWithLabel(const VynOptimizedLabel* othe
 {
     if (!other)
         return 0.0;
-    const Item a{m_position, m_length, m_halfLength, m_delta, m_margin, m_visible};
-    const Item b{other->m_position, other->m_length, other->m_halfLength,
-                 other->m_delta,    other->m_margin, other->m_visible};
-    return overlap(a, b);
+    Placement p;
+    p.items = {{m_position, m_length, m_halfLength, m_delta},
+               {other->m_position, other->m_length, other->m_halfLength, other->m_delta}};
+    p.margins = {m_margin, other->m_margin};
+    p.hasMargins = true;
+    return p.overlap(0, 1);
 }
 
 QString VynOptimizedLabel::getDescription() const
@@ -247,16 +292,16 @@ void VynOptimizedLabel::optimize(const QList<VynOptimizedLabel*>& labels, double
                 working.append(label);
         }
         if (!working.isEmpty()) {
-            std::vector<Item> items = VynOptimizedLabelAccess::gather(working);
-            relax(items, min, max);
-            hide(items, min, max);
+            Placement p = VynOptimizedLabelAccess::gather(working);
+            relax(p, min, max);
+            hide(p, min, max);
             // Second pass from the anchors: the labels hidden so far stay hidden and
             // no longer push their neighbours away.
-            for (Item& item : items)
+            for (Item& item : p.items)
                 item.delta = 0.0;
-            relax(items, min, max);
-            hide(items, min, max);
-            VynOptimizedLabelAccess::scatter(items, working);
+            relax(p, min, max);
+            hide(p, min, max);
+            VynOptimizedLabelAccess::scatter(p, working);
         }
     }
 
@@ -271,17 +316,17 @@ void VynOptimizedLabel::optimize(const QList<VynOptimizedLabel*>& labels, double
 void VynOptimizedLabel::minimizeEnery(const QList<VynOptimizedLabel*>& labels, double min,
                                       double max)
 {
-    std::vector<Item> items = VynOptimizedLabelAccess::gather(labels);
-    relax(items, min, max);
-    VynOptimizedLabelAccess::scatter(items, labels);
+    Placement p = VynOptimizedLabelAccess::gather(labels);
+    relax(p, min, max);
+    VynOptimizedLabelAccess::scatter(p, labels);
 }
 
 void VynOptimizedLabel::hideOverlapping(const QList<VynOptimizedLabel*>& labels, double min,
                                         double max)
 {
-    std::vector<Item> items = VynOptimizedLabelAccess::gather(labels);
-    hide(items, min, max);
-    VynOptimizedLabelAccess::scatter(items, labels);
+    Placement p = VynOptimizedLabelAccess::gather(labels);
+    hide(p, min, max);
+    VynOptimizedLabelAccess::scatter(p, labels);
 }
 
 VynOptimizedLabel* VynOptimizedLabel::nextVisible(int* index,
