@@ -178,6 +178,7 @@ private slots:
     void signalsOnlyOnChange();
     void matchesPlainTranscription_data();
     void matchesPlainTranscription();
+    void oddValuesMatchPlainTranscription();
     void intersection_data();
     void intersection();
     void visibleWalks_data();
@@ -388,6 +389,32 @@ void TestLabelOptimizer::matchesPlainTranscription()
         }
         if (count >= 20)
             QVERIFY(visible > 0 && visible < count); // the sets do exercise hiding
+    }
+}
+
+void TestLabelOptimizer::oddValuesMatchPlainTranscription()
+{
+    const double inf = qInf();
+    const QList<double> positions{-inf, -3, 10, 12, 12.5, 40, 41, 1e300, inf, qQNaN()};
+    const QList<double> lengths{20, 8, inf, 6, 1e-300, 30, 30, 1e300, 5, 10};
+    const QList<double> margins{0, 0.5, 0, 2, 0, 0, 1.5, 0, 0, 0};
+
+    for (double max : {100.0, inf}) {
+        Labels labels(positions, lengths);
+        std::vector<RefLabel> reference;
+        for (qsizetype i = 0; i < positions.size(); ++i) {
+            labels.list[i]->setMargin(margins[i]);
+            reference.push_back({positions[i], lengths[i], lengths[i] * 0.5, 0, margins[i], true});
+        }
+        VynOptimizedLabel::optimize(labels.list, 0, max);
+        refOptimize(reference, 0, max);
+        for (qsizetype i = 0; i < positions.size(); ++i) {
+            const double delta = labels.list[i]->delta();
+            const double expected = reference[size_t(i)].delta;
+            QVERIFY2(delta == expected || (std::isnan(delta) && std::isnan(expected)),
+                     qPrintable(labels.list[i]->getDescription()));
+            QCOMPARE(labels.list[i]->isVisible(), reference[size_t(i)].visible);
+        }
     }
 }
 
