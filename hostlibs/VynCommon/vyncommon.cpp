@@ -1,8 +1,10 @@
 #include "vyncommon.h"
 
+#include "vyneqconstants.h"
 #include "vynfamilyutils.h"
 #include "vynlocalizable.h"
 #include "vynproxyparampath.h"
+#include "vynrgbcolor.h"
 
 #include <QMetaType>
 
@@ -16,6 +18,8 @@ void initializeTypes()
 {
     qRegisterMetaType<VynProxyParamPath>();
     qRegisterMetaType<VynFamilyUtils::VynDeviceFamily>();
+    qRegisterMetaType<VynEQConstants::VynEQBandType>();
+    qRegisterMetaType<VynRGBColor>();
 }
 
 void onOpeningModule()

@@ -17,7 +17,7 @@
 class VYNCOMMON_EXPORT VynLocalizable
 {
 public:
-    static const QString kContext;          // "VynLocalizable"
+    static const QString kContext;           // "VynLocalizable"
     static const QString kParamNamesContext; // "VynParamNames"
 
     static const QHash<QString, QString>& table();

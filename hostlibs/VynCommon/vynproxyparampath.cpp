@@ -15,16 +15,16 @@ QHash<QString, int>& nameIds()
 {
     // Ids of the common parameter names. 111 to 117 are the metering names.
     static QHash<QString, int> s_ids{
-        {QStringLiteral("Device"), 1},       {QStringLiteral("Amp"), 2},
-        {QStringLiteral("Channel"), 3},      {QStringLiteral("Input"), 4},
-        {QStringLiteral("Output"), 5},       {QStringLiteral("Meter"), 6},
-        {QStringLiteral("Band"), 7},         {QStringLiteral("Gain"), 101},
-        {QStringLiteral("Delay"), 102},      {QStringLiteral("Frequency"), 103},
-        {QStringLiteral("Mute"), 104},       {QStringLiteral("Polarity"), 105},
-        {QStringLiteral("Q"), 106},          {QStringLiteral("Voltage"), 111},
-        {QStringLiteral("Current"), 112},    {QStringLiteral("GainReduction"), 113},
+        {QStringLiteral("Device"), 1},        {QStringLiteral("Amp"), 2},
+        {QStringLiteral("Channel"), 3},       {QStringLiteral("Input"), 4},
+        {QStringLiteral("Output"), 5},        {QStringLiteral("Meter"), 6},
+        {QStringLiteral("Band"), 7},          {QStringLiteral("Gain"), 101},
+        {QStringLiteral("Delay"), 102},       {QStringLiteral("Frequency"), 103},
+        {QStringLiteral("Mute"), 104},        {QStringLiteral("Polarity"), 105},
+        {QStringLiteral("Q"), 106},           {QStringLiteral("Voltage"), 111},
+        {QStringLiteral("Current"), 112},     {QStringLiteral("GainReduction"), 113},
         {QStringLiteral("PeakLimiter"), 114}, {QStringLiteral("Temperature"), 115},
-        {QStringLiteral("Compressor"), 116}, {QStringLiteral("CompressorRms"), 117},
+        {QStringLiteral("Compressor"), 116},  {QStringLiteral("CompressorRms"), 117},
     };
     return s_ids;
 }
@@ -35,8 +35,8 @@ VynProxyParamPath::VynProxyParamPath(const QList<Element>& elements) : m_element
 
 VynProxyParamPath VynProxyParamPath::fromString(const QString& text, bool* ok)
 {
-    static const QRegularExpression elementPattern(
-        QStringLiteral("^\\s*([^/\\[\\]#]*[^/\\[\\]#\\s])\\s*(?:\\[(\\d+)\\])?\\s*(?:#(\\d+))?\\s*$"));
+    static const QRegularExpression elementPattern(QStringLiteral(
+        "^\\s*([^/\\[\\]#]*[^/\\[\\]#\\s])\\s*(?:\\[(\\d+)\\])?\\s*(?:#(\\d+))?\\s*$"));
 
     QList<Element> elements;
     const QStringList parts = text.split(QLatin1Char('/'), Qt::SkipEmptyParts);
@@ -51,7 +51,8 @@ VynProxyParamPath VynProxyParamPath::fromString(const QString& text, bool* ok)
             element.name = match.captured(1).trimmed();
             if (match.hasCaptured(2))
                 element.index = match.captured(2).toInt(&indexOk);
-            element.id = match.hasCaptured(3) ? match.captured(3).toInt(&idOk) : nameId(element.name);
+            element.id =
+                match.hasCaptured(3) ? match.captured(3).toInt(&idOk) : nameId(element.name);
         }
         if (!match.hasMatch() || !indexOk || !idOk) {
             if (ok)

@@ -47,9 +47,9 @@ double roundSingle(double v)
 
 bool VynResizeSettings::operator==(const VynResizeSettings& o) const
 {
-    return widthFactor == o.widthFactor && heightFactor == o.heightFactor && anchor == o.anchor
-        && widthIsSizable == o.widthIsSizable && heightIsSizable == o.heightIsSizable
-        && isProportional == o.isProportional && isCentered == o.isCentered;
+    return widthFactor == o.widthFactor && heightFactor == o.heightFactor && anchor == o.anchor &&
+           widthIsSizable == o.widthIsSizable && heightIsSizable == o.heightIsSizable &&
+           isProportional == o.isProportional && isCentered == o.isCentered;
 }
 
 Qt::Orientation vynOrientationOther(Qt::Orientation orientation)
@@ -241,8 +241,8 @@ bool qRectFStrictlyIntersectsRect(const QRectF& a, const QRectF& b)
 
 bool qRectFLargeContainsRect(const QRectF& outer, const QRectF& inner)
 {
-    return inner.x() >= outer.x() && outer.x() + outer.width() >= inner.x() + inner.width()
-        && inner.y() >= outer.y() && outer.y() + outer.height() >= inner.y() + inner.height();
+    return inner.x() >= outer.x() && outer.x() + outer.width() >= inner.x() + inner.width() &&
+           inner.y() >= outer.y() && outer.y() + outer.height() >= inner.y() + inner.height();
 }
 
 bool qRectFContainsQPoint(const QRectF& rect, const QPointF& point)

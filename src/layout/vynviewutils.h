@@ -240,7 +240,10 @@ public:
     double position = 0.0;
     QString text;
 
-    bool operator==(const VynGraphLabel& o) const { return position == o.position && text == o.text; }
+    bool operator==(const VynGraphLabel& o) const
+    {
+        return position == o.position && text == o.text;
+    }
     bool operator!=(const VynGraphLabel& o) const { return !(*this == o); }
 };
 
@@ -262,8 +265,8 @@ public:
 
     bool operator==(const VynParamSelectValue& o) const
     {
-        return paramPath == o.paramPath && valueMode == o.valueMode && isMultiple == o.isMultiple
-            && notSpecifiedText == o.notSpecifiedText;
+        return paramPath == o.paramPath && valueMode == o.valueMode && isMultiple == o.isMultiple &&
+               notSpecifiedText == o.notSpecifiedText;
     }
     bool operator!=(const VynParamSelectValue& o) const { return !(*this == o); }
 };
@@ -286,8 +289,8 @@ public:
 
     bool operator==(const VynSpinBoxValue& o) const
     {
-        return value == o.value && minValue == o.minValue && maxValue == o.maxValue
-            && isMultiple == o.isMultiple;
+        return value == o.value && minValue == o.minValue && maxValue == o.maxValue &&
+               isMultiple == o.isMultiple;
     }
     bool operator!=(const VynSpinBoxValue& o) const { return !(*this == o); }
 };

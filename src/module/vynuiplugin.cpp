@@ -3,6 +3,7 @@
 #include "vyncolorutils.h"
 #include "vynuilocalizable.h"
 #include "vynviewutils.h"
+#include "vynvumeterconstants.h"
 
 #include <qtcommons.h>
 #include <vyncommon.h>
@@ -14,10 +15,10 @@ extern void qml_register_types_VynUI();
 namespace {
 
 // Registers T and, when its name is qualified, the unqualified name as a typedef.
-template <typename T>
-void registerWithShortName()
+template <typename T> void registerWithShortName()
 {
     const QMetaType type = QMetaType::fromType<T>();
+    qRegisterMetaType<T>();
     const QByteArray fullName = type.name();
     const qsizetype separator = fullName.lastIndexOf("::");
     const QByteArray shortName =
@@ -62,6 +63,7 @@ void VynUIPlugin::initializeTypes()
     registerWithShortName<VynResizeAnchor>();
     registerWithShortName<VynModalResponse>();
     registerWithShortName<VynResizeSettings>();
+    registerWithShortName<VynVUMeterConstants::VynVUMetreTickMarkConfig>();
     registerWithShortName<VynSpinBoxValue>();
     registerWithShortName<VynUIComponentType>();
 

@@ -1,3 +1,8 @@
 list(APPEND VYNUI_SOURCES
+    style/vyncolorappearance.h style/vyncolorappearance.cpp
+    style/vyncolorconstants.h
     style/vyncolorutils.h style/vyncolorutils.cpp
+    style/vynhsbtransform.h
+    style/vynuiqmlconstants.h style/vynuiqmlconstants.cpp
+    style/vynviewconstants.h
 )

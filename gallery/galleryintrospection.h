@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+#include <QVariantList>
+
+// What the gallery shows about the module itself: the view enums with their values.
+class GalleryIntrospection : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    explicit GalleryIntrospection(QObject* parent = nullptr);
+
+    //! One entry per enum of VynViewUtils: { name, keys: [{ key, value }] }.
+    Q_INVOKABLE QVariantList viewEnums() const;
+    Q_INVOKABLE QString moduleVersion() const;
+};

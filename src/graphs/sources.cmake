@@ -1,0 +1,3 @@
+list(APPEND VYNUI_SOURCES
+    graphs/vynvumeterconstants.h graphs/vynvumeterconstants.cpp
+)
