@@ -194,21 +194,17 @@ TestCase {
         mouseMove(item, 190, 55)
         tryCompare(label.labelTooltip, "visible", false)
 
+        // The tooltip takes the label's style unless told otherwise.
+        label.vynStyle = VynColorUtils.VynStyleLight
+        compare(label.labelTooltip.vynStyle, VynColorUtils.VynStyleLight)
+        label.tooltipStyle = VynColorUtils.VynStyleDark
+        compare(label.labelTooltip.vynStyle, VynColorUtils.VynStyleDark)
+
         label.tooltipText = ""
         compare(label.isHoverEnabled, false)
         mouseMove(label, 30, 15)
         wait(50)
         compare(label.labelTooltip.visible, false)
-    }
-
-    function test_tooltipStyle() {
-        const item = createTemporaryObject(mouseComponent, testCase)
-        const label = item.label
-        label.vynStyle = VynColorUtils.VynStyleLight
-        compare(label.labelTooltip.vynStyle, VynColorUtils.VynStyleLight)
-        label.tooltipStyle = VynColorUtils.VynStyleDark
-        compare(label.labelTooltip.vynStyle, VynColorUtils.VynStyleDark)
-        compare(label.vynStyle, VynColorUtils.VynStyleLight)
     }
 
     function test_mouseAccepted_data() {
