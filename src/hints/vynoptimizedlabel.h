@@ -27,8 +27,8 @@
       others are relaxed (minimizeEnery), hidden where they still overflow or
       collide (hideOverlapping), then relaxed and hidden once more from zero
       deltas, with the labels hidden by the first pass no longer acting as
-      neighbours. An empty or inverted interval (min >= max) hides every
-      label. Afterwards each label emits visibleChanged() and
+      neighbours. An empty or inverted interval (min >= max, or a NaN
+      bound) hides every label. Afterwards each label emits visibleChanged() and
       optimizedPositionChanged() when its visibility or delta differs from
       what it was before the call.
     - minimizeEnery(): the relaxation alone (at most 50 sweeps, stopping as
@@ -46,7 +46,8 @@
       more (the earlier label wins). It never shows a label.
 
     The list is expected in ascending order of position; the functions visit
-    it in list order and do not sort it. Null entries are not allowed. The
+    it in list order and do not sort it. Null entries are not allowed, and a
+    label appears in a list at most once. The
     relaxation and hiding functions change deltas and visibility without
     emitting signals; only optimize() emits.
 
