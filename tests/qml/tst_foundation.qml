@@ -31,6 +31,22 @@ TestCase {
         compare(data.weight(), data.expected)
     }
 
+    // A face that is not ready, or ready without a family, takes the application's font.
+    function test_familyFallback_data() {
+        return [
+            { tag: "ready", status: FontLoader.Ready, family: "Inter", fallback: false },
+            { tag: "loading", status: FontLoader.Loading, family: "", fallback: true },
+            { tag: "error", status: FontLoader.Error, family: "", fallback: true },
+            { tag: "null", status: FontLoader.Null, family: "", fallback: true },
+            { tag: "ready without family", status: FontLoader.Ready, family: "", fallback: true }
+        ]
+    }
+
+    function test_familyFallback(data) {
+        const loader = { status: data.status, font: { family: data.family } }
+        compare(VynFonts.familyOf(loader), data.fallback ? VynFonts.vynFallbackFamily : data.family)
+    }
+
     TextMetrics {
         id: metrics
         text: "Output gain \u2212120.5 dB"
