@@ -1,0 +1,62 @@
+import QtQuick
+import VynUI 1.2
+
+// A slider and a slide field side by side, both bound to one VynUISlideFieldComponent: the
+// slider for coarse moves, the field for the exact number and the unit. Build it like
+// VynUISlider: `VynUISliderAndField { uiSlideFieldComponent: host.delayComponent }`.
+// `title` shows the parameter's name before the slider (the component's name by default).
+Item {
+    id: root
+
+    property int vynStyle: VynColorUtils.VynStyleDark
+    property int vynControlSize: VynViewUtils.VynControlSizeRegular
+    property real vynPixelRatio: 1.0
+    property VynUISlideFieldComponent uiSlideFieldComponent: ownComponent
+    property string title: uiSlideFieldComponent && uiSlideFieldComponent.wantsName
+                           ? uiSlideFieldComponent.name : ""
+    property real titleWidth: 0
+    property real fieldWidth: 6 * VynUIQmlConstants.textFieldHeight(vynControlSize, vynPixelRatio)
+    property alias slider: sliderItem
+    property alias field: fieldItem
+    readonly property real _spacing: VynUIQmlConstants.marginSpace(vynControlSize, vynPixelRatio)
+
+    implicitHeight: Math.max(sliderItem.implicitHeight, fieldItem.implicitHeight)
+    implicitWidth: titleItem.width + 12 * sliderItem.implicitHeight + fieldWidth + 2 * _spacing
+
+    Text {
+        id: titleItem
+        visible: root.title.length > 0
+        width: visible ? (root.titleWidth > 0 ? root.titleWidth : implicitWidth + root._spacing) : 0
+        height: root.height
+        text: root.title
+        elide: Text.ElideRight
+        verticalAlignment: Text.AlignVCenter
+        font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatio)
+        color: VynUIQmlConstants.labelColorForStyle(root.vynStyle, 1)
+    }
+    VynUISlider {
+        id: sliderItem
+        x: titleItem.width
+        width: root.width - x - fieldItem.width - root._spacing
+        anchors.verticalCenter: parent.verticalCenter
+        vynStyle: root.vynStyle
+        vynControlSize: root.vynControlSize
+        vynPixelRatio: root.vynPixelRatio
+        uiSliderComponent: root.uiSlideFieldComponent
+    }
+    VynUISlideField {
+        id: fieldItem
+        x: root.width - width
+        width: root.fieldWidth
+        anchors.verticalCenter: parent.verticalCenter
+        vynStyle: root.vynStyle
+        vynControlSize: root.vynControlSize
+        vynPixelRatio: root.vynPixelRatio
+        uiSlideFieldComponent: root.uiSlideFieldComponent
+        allowsPanning: true
+    }
+
+    VynUISlideFieldComponent {
+        id: ownComponent
+    }
+}
