@@ -119,6 +119,12 @@ VynTextField {
         root.notifyEditingEnded()
     }
 
+    Timer {
+        id: editTimer
+        interval: Qt.styleHints.mouseDoubleClickInterval
+        onTriggered: root.forceActiveFocus()
+    }
+
     MouseArea {
         anchors.fill: parent
         enabled: !root.editing
@@ -150,11 +156,13 @@ VynTextField {
             root._dragging = false
             root.notifyEditingEnded()
         }
+        // A click that stays a single click (no drag, no second click) starts editing.
         onClicked: function (mouse) {
             if (Math.abs(mouse.x - root._pressPoint.x) < 1 && root.securityType !== VynCommonConstants.VynSecurityTypeDisable)
-                root.forceActiveFocus()
+                editTimer.restart()
         }
         onDoubleClicked: {
+            editTimer.stop()
             if (root.securityType === VynCommonConstants.VynSecurityTypeDisable)
                 return
             root.notifyEditingStarted()
