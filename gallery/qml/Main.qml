@@ -16,7 +16,8 @@ ApplicationWindow {
     readonly property var pages: [
         { title: "Overview", source: "pages/OverviewPage.qml" },
         { title: "Style", source: "pages/StylePage.qml" },
-        { title: "Components", source: "pages/ComponentsPage.qml" }
+        { title: "Components", source: "pages/ComponentsPage.qml" },
+        { title: "Controls", source: "pages/ControlsPage.qml" }
     ]
 
     width: 1280

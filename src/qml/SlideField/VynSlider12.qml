@@ -259,7 +259,8 @@ Item {
         width: root.vertical ? root._trackThickness : root._trackLength
         height: root.vertical ? root._trackLength : root._trackThickness
         radius: VynUIQmlConstants.sliderTrackCornerRadius(root.vynControlSize, root.vynPixelRatio)
-        color: VynUIQmlConstants.controlFillColor(root.vynStyle)
+        // A well in the background colour of text views, framed like the thumb.
+        color: VynUIQmlConstants.textViewBackgroundColorForStyle(root.vynStyle)
         border.width: Math.max(1, VynUIQmlConstants.sliderThumbBorder(root.vynPixelRatio))
         border.color: VynUIQmlConstants.controlBorderColorForStyle(root.vynStyle, 0)
     }
