@@ -10,8 +10,12 @@ packages=(
     qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates
     qml6-module-qtquick-layouts qml6-module-qtquick-window qml6-module-qtquick-shapes
     qml6-module-qtquick-dialogs qml6-module-qttest
+    # Qt's SVG image-format plugin: the module's icons are SVG files drawn by Qt Quick.
+    libqt6svg6
     libgl-dev fonts-dejavu-core
 )
+# The module's own fonts (Inter) are committed under src/qml/Font: no font package is needed
+# to build or run it.
 
 missing=()
 for package in "${packages[@]}"; do

@@ -55,10 +55,10 @@ class QTCOMMONS_EXPORT QApplicationMessage : public QObject
     Q_PROPERTY(bool isFinished READ isFinished NOTIFY finished)
 
 public:
-    enum Level { Level_Note = 0, Level_Info = 1, Level_Warn = 2, Level_Critical = 3 };
+    enum Level : int { Level_Note = 0, Level_Info = 1, Level_Warn = 2, Level_Critical = 3 };
     Q_ENUM(Level)
 
-    enum Type {
+    enum Type : int {
         Type_Basic = 0,
         Type_Confirm = 1,
         Type_Custom = 2,

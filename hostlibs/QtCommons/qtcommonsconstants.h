@@ -9,7 +9,7 @@ namespace QtCommonsConstants {
 Q_NAMESPACE_EXPORT(QTCOMMONS_EXPORT)
 
 //! Tri-state flag: off, on, or mixed (a selection whose members differ). Also a table index.
-enum VynBOOL { VynBOOLFalse = 0, VynBOOLTrue = 1, VynBOOLMixed = 2 };
+enum VynBOOL : int { VynBOOLFalse = 0, VynBOOLTrue = 1, VynBOOLMixed = 2 };
 Q_ENUM_NS(VynBOOL)
 
 /*!

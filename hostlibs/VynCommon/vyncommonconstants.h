@@ -23,7 +23,7 @@ Q_NAMESPACE_EXPORT(VYNCOMMON_EXPORT)
 
     Any other value is treated like VynSecurityTypeNone by the presenters.
 */
-enum VynSecurityType {
+enum VynSecurityType : int {
     VynSecurityTypeNone = 0,
     VynSecurityTypeShouldAlert = 1,
     VynSecurityTypeDisable = 2,

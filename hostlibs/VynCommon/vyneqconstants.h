@@ -15,7 +15,7 @@
 namespace VynEQConstants {
 Q_NAMESPACE_EXPORT(VYNCOMMON_EXPORT)
 
-enum VynEQBandType {
+enum VynEQBandType : int {
     VynEQTypeThru = 0,
     VynEQTypeBell = 1,
     VynEQTypeHighPass = 2,

@@ -9,7 +9,7 @@
 namespace VynFamilyUtils {
 Q_NAMESPACE_EXPORT(VYNCOMMON_EXPORT)
 
-enum VynDeviceFamily {
+enum VynDeviceFamily : int {
     VynDeviceFamilyUnknown = 0,
     VynDeviceFamilyAmplifier = 1,
     VynDeviceFamilyProcessor = 2,

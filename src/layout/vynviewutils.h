@@ -18,6 +18,9 @@
     controls: the view enums, small value records handed between C++ and QML,
     and rectangle, side and anchor arithmetic.
 
+    The enums have int as their underlying type, so any int a host or a
+    document passes is a valid value and takes the "every other value" branch.
+
     In QML the namespace is the uncreatable element VynViewUtils carrying the
     enums (VynViewUtils.VynSideLeft). The records are QML value types
     (vynSideBounds, vynGraphLabel, ...) that QML reads, declares and fills.
@@ -32,14 +35,14 @@ namespace VynViewUtils {
 Q_NAMESPACE_EXPORT(VYNUI_EXPORT)
 QML_ELEMENT
 
-enum VynLiveButtonMode {
+enum VynLiveButtonMode : int {
     VynLiveButtonModeOffline = 0,
     VynLiveButtonModeConfig = 1,
     VynLiveButtonModeLive = 2,
 };
 Q_ENUM_NS(VynLiveButtonMode)
 
-enum VynControlSize {
+enum VynControlSize : int {
     VynControlSizeMini = 0,
     VynControlSizeSmall = 1,
     VynControlSizeRegular = 2,
@@ -48,14 +51,14 @@ enum VynControlSize {
 };
 Q_ENUM_NS(VynControlSize)
 
-enum VynVerticalAlignment {
+enum VynVerticalAlignment : int {
     VynVerticalAlignmentTop = 0,
     VynVerticalAlignmentMiddle = 1,
     VynVerticalAlignmentBottom = 2,
 };
 Q_ENUM_NS(VynVerticalAlignment)
 
-enum VynAlignmentType {
+enum VynAlignmentType : int {
     VynAlignmentTypeNone = 0,
     VynAlignmentTypeAligned = 1,
     VynAlignmentTypeContact = 2,
@@ -69,7 +72,7 @@ Q_ENUM_NS(VynAlignmentType)
 
 //! The four edges form a bit set (All = the four); the two centre lines lie outside it.
 //! HorizontalCenter is the vertical line x + w/2, VerticalCenter the horizontal line y + h/2.
-enum VynSide {
+enum VynSide : int {
     VynSideNone = 0,
     VynSideLeft = 1,
     VynSideTop = 2,
@@ -81,7 +84,7 @@ enum VynSide {
 };
 Q_ENUM_NS(VynSide)
 
-enum VynCorner {
+enum VynCorner : int {
     VynCornerNone = 0,
     VynCornerTopLeft = 1,
     VynCornerTopRight = 2,
@@ -93,7 +96,7 @@ Q_ENUM_NS(VynCorner)
 
 //! The fixed point of a resize. Low four bits: horizontal position (0 left, 1 middle,
 //! 2 right); bits 4 to 7: vertical position (0 top, 1 middle, 2 bottom).
-enum VynResizeAnchor {
+enum VynResizeAnchor : int {
     VynResizeAnchorTopLeft = 0,
     VynResizeAnchorTopMiddle = 1,
     VynResizeAnchorTopRight = 2,
@@ -106,7 +109,7 @@ enum VynResizeAnchor {
 };
 Q_ENUM_NS(VynResizeAnchor)
 
-enum VynLedState {
+enum VynLedState : int {
     VynLedStateGray = 0,
     VynLedStateOrange = 1,
     VynLedStateRed = 2,
@@ -124,20 +127,20 @@ enum VynLedState {
 };
 Q_ENUM_NS(VynLedState)
 
-enum VynLedShape {
+enum VynLedShape : int {
     VynLedShapeCircle = 0,
     VynLedShapeTriangle = 1,
     VynLedShapeUpsideDownTriangle = 2,
 };
 Q_ENUM_NS(VynLedShape)
 
-enum VynSelectorCellMode {
+enum VynSelectorCellMode : int {
     VynSelectorCellModeMuteSolo = 0,
     VynSelectorCellModeLocate = 1,
 };
 Q_ENUM_NS(VynSelectorCellMode)
 
-enum VynModalResponse {
+enum VynModalResponse : int {
     VynModalResponseNone = 0,
     VynModalResponseOK = 1,
     VynModalResponseCancel = 2,
@@ -145,7 +148,7 @@ enum VynModalResponse {
 };
 Q_ENUM_NS(VynModalResponse)
 
-enum VynUIComponentType {
+enum VynUIComponentType : int {
     VynUIComponentTypeNone = 0,
     VynUIComponentTypeButton = 1,
     VynUIComponentTypeCabLabel = 2,

@@ -709,3 +709,33 @@ QColor VynColorAppearance::logGraphMarkColor(const QColor& infoColor)
     }
     return QColor::fromHslF(hue, s, std::min(l * 1.2f, 1.0f), a);
 }
+
+double VynColorAppearance::liveModeButtonAlpha()
+{
+    return kVynLiveModeButtonAlphas[0];
+}
+
+double VynColorAppearance::liveModeButtonTouchingAlpha()
+{
+    return kVynLiveModeButtonAlphas[1];
+}
+
+QColor VynColorAppearance::zoneIconTouchingColor(const QColor& color, int style)
+{
+    return transformed(zoneIconFillColor(color, style), kVynControlTouchOverTransform, 0);
+}
+
+double VynColorAppearance::zoneIconShadowAlpha()
+{
+    return kVynZoneIconShadowAlpha;
+}
+
+QColor VynColorAppearance::popoverButtonFillColor(int style)
+{
+    return flatButtonFillColorForStyle(style, 0);
+}
+
+QColor VynColorAppearance::popoverButtonBorderColor(int style)
+{
+    return flatButtonBorderColorForStyle(style, 0);
+}

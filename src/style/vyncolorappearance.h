@@ -169,6 +169,15 @@ public:
     static QColor liveModeButtonColor(int mode);
     static QColor liveModeButtonBackgroundColor(int style);
     static QColor liveModeButtonFillColor(int style);
+    //! Opacity of the live-mode button, and while it is touched.
+    static double liveModeButtonAlpha();
+    static double liveModeButtonTouchingAlpha();
+    //! A zone icon's fill while touched: its fill darkened like any touched control.
+    static QColor zoneIconTouchingColor(const QColor& color, int style);
+    static double zoneIconShadowAlpha();
+    //! Buttons inside a popover are flat buttons: their fill and border in the off state.
+    static QColor popoverButtonFillColor(int style);
+    static QColor popoverButtonBorderColor(int style);
     static QColor logRecordButtonColor();
     static QColor yellowSelectionColor();
     //! LED colours by VynViewUtils::VynLedState 0 to 4 (grey, orange, red, green, blue); the

@@ -132,6 +132,14 @@ inline constexpr VynHSBTransform kVynControlTouchOverTransform[] = {
     {1, 0, 1, 0, 0.8, -0.1, 1, 0},
 };
 
+//! Opacity of the live-mode button: [normal, while touched]. The touched button fades
+//! enough to read as pressed while its colour (the mode) stays recognisable.
+inline constexpr double kVynLiveModeButtonAlphas[] = {0.9, 0.6};
+
+//! Opacity of a zone icon's drop shadow: a soft shadow that lifts the icon off the map in
+//! both styles without darkening neighbouring cells.
+inline constexpr double kVynZoneIconShadowAlpha = 0.35;
+
 //! [Light, Dark], index style
 inline constexpr VynHSBTransform kVynInactiveScreenTintedImageTransform[] = {
     {1, 0, 1, 0, 1, -0.16, 1, 0},

@@ -40,10 +40,14 @@ class VYNUI_EXPORT VynColorUtils : public QObject
     QML_UNCREATABLE("VynColorUtils only carries the style enums and static colour functions")
 
 public:
-    enum VynStyle { VynStyleLight = 0, VynStyleDark = 1 };
+    enum VynStyle : int { VynStyleLight = 0, VynStyleDark = 1 };
     Q_ENUM(VynStyle)
 
-    enum VynStylePreference { VynStylePrefLight = 0, VynStylePrefDark = 1, VynStylePrefSystem = 2 };
+    enum VynStylePreference : int {
+        VynStylePrefLight = 0,
+        VynStylePrefDark = 1,
+        VynStylePrefSystem = 2
+    };
     Q_ENUM(VynStylePreference)
 
     explicit VynColorUtils(QObject* parent = nullptr);

@@ -3182,3 +3182,34 @@ QApplicationMessage* VynUIQmlConstants::presentConfirmMessageIfNeededForSecurity
         p_securityType, p_title, p_message, p_tag, p_level, p_type, buttonPair(p_buttonTitles),
         controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context));
 }
+
+double VynUIQmlConstants::liveModeButtonAlpha()
+{
+    return VynColorAppearance::liveModeButtonAlpha();
+}
+
+double VynUIQmlConstants::liveModeButtonTouchingAlpha()
+{
+    return VynColorAppearance::liveModeButtonTouchingAlpha();
+}
+
+QColor VynUIQmlConstants::zoneIconTouchingColor(const QColor& p_color,
+                                                VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::zoneIconTouchingColor(p_color, p_style);
+}
+
+double VynUIQmlConstants::zoneIconShadowAlpha()
+{
+    return VynColorAppearance::zoneIconShadowAlpha();
+}
+
+QColor VynUIQmlConstants::popoverButtonFillColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::popoverButtonFillColor(p_style);
+}
+
+QColor VynUIQmlConstants::popoverButtonBorderColor(VynColorUtils::VynStyle p_style)
+{
+    return VynColorAppearance::popoverButtonBorderColor(p_style);
+}

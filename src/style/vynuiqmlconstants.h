@@ -944,6 +944,16 @@ public:
     Q_INVOKABLE static QColor
     liveModeButtonFillColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
     Q_INVOKABLE static QColor logRecordButtonColor();
+    Q_INVOKABLE static double liveModeButtonAlpha();         //!< 0.9
+    Q_INVOKABLE static double liveModeButtonTouchingAlpha(); //!< 0.6
+    Q_INVOKABLE static QColor
+    zoneIconTouchingColor(const QColor& p_color,
+                          VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static double zoneIconShadowAlpha(); //!< 0.35
+    Q_INVOKABLE static QColor
+    popoverButtonFillColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    popoverButtonBorderColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
     Q_INVOKABLE static QColor
     zoneIconFillColor(const QColor& p_color,
                       VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);

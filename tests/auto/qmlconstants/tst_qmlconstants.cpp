@@ -117,6 +117,7 @@ private slots:
     void meterColors_data();
     void meterColors();
     void styleForColor();
+    void derivedControlColors();
 };
 
 void tst_QmlConstants::initTestCase()
@@ -772,6 +773,12 @@ void tst_QmlConstants::colorMembersPresent()
     // Every colour member QML documents call is invokable.
     const char* const names[] = {
         "colorFactoryCount",
+        "liveModeButtonAlpha",
+        "liveModeButtonTouchingAlpha",
+        "zoneIconTouchingColor",
+        "zoneIconShadowAlpha",
+        "popoverButtonFillColor",
+        "popoverButtonBorderColor",
         "colorFactory",
         "rgbColorFactoryIndex",
         "readableColorFactoryForStyle",
@@ -1062,4 +1069,22 @@ void tst_QmlConstants::styleForColor()
 }
 
 QTEST_MAIN(tst_QmlConstants)
+void tst_QmlConstants::derivedControlColors()
+{
+    using C = VynUIQmlConstants;
+    for (const auto style : {VynColorUtils::VynStyleLight, VynColorUtils::VynStyleDark}) {
+        QCOMPARE(C::popoverButtonFillColor(style), C::flatButtonFillColorForStyle(style, 0));
+        QCOMPARE(C::popoverButtonBorderColor(style), C::flatButtonBorderColorForStyle(style, 0));
+        const QColor tint = QColor::fromRgbF(0.2f, 0.6f, 0.9f);
+        // Touching darkens the icon's fill and keeps its hue.
+        const QColor fill = C::zoneIconFillColor(tint, style);
+        const QColor touched = C::zoneIconTouchingColor(tint, style);
+        QVERIFY(touched.valueF() < fill.valueF());
+        QCOMPARE(touched.hsvHue(), fill.hsvHue());
+    }
+    QVERIFY(C::liveModeButtonTouchingAlpha() < C::liveModeButtonAlpha());
+    QVERIFY(C::liveModeButtonAlpha() <= 1.0);
+    QVERIFY(C::zoneIconShadowAlpha() > 0.0 && C::zoneIconShadowAlpha() < 1.0);
+}
+
 #include "tst_qmlconstants.moc"

@@ -1,0 +1,36 @@
+import QtQuick
+import QtQuick.Controls
+import VynUI 1.2
+
+// A text label in the module's look: font size, family and colour come from the constants
+// catalogue for the label's style, control size and level; an optional background in
+// vynBkgdColor with a vynBorderColor border (both transparent by default).
+Label {
+    id: root
+
+    property int vynStyle: VynColorUtils.VynStyleDark
+    property real vynPixelRatio: 1.0
+    property real vynPixelRatioFont: 1.0
+    property int vynControlSize: VynViewUtils.VynControlSizeRegular
+    // Emphasis level of the text colour: 0 primary, 1 secondary, 2 tertiary.
+    property int level: 0
+    property color vynBkgdColor: "transparent"
+    property color vynBorderColor: "transparent"
+
+    property alias fontSize: root.font.pixelSize
+    property alias fontFamily: root.font.family
+    property alias fontStyle: root.font.styleName
+    property alias textColor: root.color
+
+    font.pixelSize: VynUIQmlConstants.fontSize(vynControlSize, vynPixelRatioFont)
+    font.family: VynFonts.vynFamilyRegular
+    verticalAlignment: Text.AlignVCenter
+    elide: Text.ElideRight
+    color: VynUIQmlConstants.labelColorForStyle(vynStyle, level)
+
+    background: Rectangle {
+        color: root.vynBkgdColor
+        border.color: root.vynBorderColor
+        radius: VynUIQmlConstants.flatButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
+    }
+}
