@@ -52,7 +52,7 @@ Flickable {
             spacing: VynUIQmlConstants.marginParent()
             RowLayout {
                 Layout.fillWidth: true
-                Label {
+                VynLabel {
                     text: card.title
                     font.pixelSize: VynUIQmlConstants.fontSizeCellTitle()
                     font.bold: true
@@ -63,7 +63,7 @@ Flickable {
                 Item {
                     Layout.fillWidth: true
                 }
-                Label {
+                VynLabel {
                     text: card.detail
                     font.pixelSize: VynUIQmlConstants.fontSizeCellDetail()
                     color: VynUIQmlConstants.labelColorForStyle(page.vynStyle, 2)
@@ -102,7 +102,7 @@ Flickable {
         property bool showsScale: false
         spacing: VynUIQmlConstants.marginSpace()
 
-        Label {
+        VynLabel {
             Layout.alignment: Qt.AlignHCenter
             text: strip.caption
             font.pixelSize: VynUIQmlConstants.fontSizeCellTitle()
@@ -122,7 +122,7 @@ Flickable {
                 visible: strip.showsScale
                 Repeater {
                     model: [12, 0, -12, -24, -36, -48, -60]
-                    Label {
+                    VynLabel {
                         required property int modelData
                         anchors.right: parent.right
                         anchors.rightMargin: VynUIQmlConstants.marginSpace(VynViewUtils.VynControlSizeMini)
@@ -154,7 +154,7 @@ Flickable {
             EchoLamp {
                 model: strip.model
             }
-            Label {
+            VynLabel {
                 text: strip.model.mixed ? VynUIQmlConstants.localizedString("MULTIPLE_SHORT")
                                         : strip.model.stringValue
                 font.pixelSize: VynUIQmlConstants.fontSizeCellDetail()
@@ -162,7 +162,7 @@ Flickable {
                 color: VynUIQmlConstants.textViewTextColorForStyle(page.vynStyle, strip.model.mixed ? 1 : 0)
             }
         }
-        Label {
+        VynLabel {
             Layout.alignment: Qt.AlignHCenter
             text: strip.model.securityType === VynCommonConstants.VynSecurityTypeShouldAlert
                   ? qsTr("CONFIRM") : strip.model.mixed ? qsTr("MIXED") : " "
@@ -182,7 +182,7 @@ Flickable {
         required property VynUISlideFieldComponent frequency
         spacing: VynUIQmlConstants.marginParent()
 
-        Label {
+        VynLabel {
             Layout.preferredWidth: 86
             text: fieldRow.caption
             font.pixelSize: VynUIQmlConstants.fontSize()
@@ -226,13 +226,13 @@ Flickable {
 
         ColumnLayout {
             spacing: VynUIQmlConstants.marginSpace()
-            Label {
+            VynLabel {
                 text: qsTr("Controls")
                 font.pixelSize: VynUIQmlConstants.fontSizeTitleSecondary()
                 font.bold: true
                 color: VynUIQmlConstants.labelColorForStyle(page.vynStyle, 0)
             }
-            Label {
+            VynLabel {
                 Layout.fillWidth: true
                 Layout.preferredWidth: content.width
                 wrapMode: Text.WordWrap
@@ -300,7 +300,7 @@ Flickable {
                             readonly property VynUISliderComponent model: amplifier.component(index + 1, "Gain")
                             width: parent.width
                             spacing: VynUIQmlConstants.marginParent()
-                            Label {
+                            VynLabel {
                                 text: qsTr("CH %1").arg(trimRow.index + 1)
                                 font.pixelSize: VynUIQmlConstants.fontSizeCellTitle()
                                 font.bold: true
@@ -315,7 +315,7 @@ Flickable {
                                 enableWheeling: true
                                 uiSliderComponent: trimRow.model
                             }
-                            Label {
+                            VynLabel {
                                 Layout.preferredWidth: 64
                                 horizontalAlignment: Text.AlignRight
                                 text: trimRow.model.stringValue
@@ -380,7 +380,7 @@ Flickable {
                                 id: operatorSwitch
                                 checked: true
                             }
-                            Label {
+                            VynLabel {
                                 text: qsTr("Another operator edits the amplifier")
                                 font.pixelSize: VynUIQmlConstants.fontSize()
                                 color: VynUIQmlConstants.labelColorForStyle(page.vynStyle, 1)
@@ -399,7 +399,7 @@ Flickable {
                                 y: VynUIQmlConstants.marginParent()
                                 Repeater {
                                     model: amplifier.traffic
-                                    Label {
+                                    VynLabel {
                                         required property string modelData
                                         text: modelData
                                         font.family: "monospace"

@@ -410,17 +410,18 @@ VynTextField {
     }
 
     // --- Title ---
-    Text {
+    VynLabel {
         id: titleLabel
         objectName: "titleLabel"
         visible: root.hasTitle && !root.compressed
         x: 0
         width: root.titleWidth > 0 ? root.titleWidth : implicitWidth
         height: root.height
-        verticalAlignment: Text.AlignVCenter
-        elide: Text.ElideRight
-        font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatio)
-        color: VynUIQmlConstants.labelColorForStyle(root.vynStyle, 1)
+        vynStyle: root.vynStyle
+        vynControlSize: root.vynControlSize
+        vynPixelRatio: root.vynPixelRatio
+        vynPixelRatioFont: root.vynPixelRatioFont
+        level: 1
     }
 
     // --- Panning handle ---
@@ -431,37 +432,19 @@ VynTextField {
         x: root.leftInset + VynUIQmlConstants.textFieldPanningIconInsetsL(root.vynControlSize, root.vynPixelRatio)
         height: Math.max(VynUIQmlConstants.textFieldPanningIconHeightMin(root.vynPixelRatio),
                          Math.round(root.height * VynUIQmlConstants.textFieldPanningIconHeightRatio()))
-        width: Math.round(height * 0.8)
+        width: height
         y: Math.round((root.height - height) / 2)
 
-        // Two chevrons pointing left and right: drag sideways.
-        Canvas {
-            id: handleIcon
-            anchors.centerIn: parent
-            width: parent.width
-            height: Math.round(parent.height * 0.55)
-            property color tint: root.panning
-                                 ? VynUIQmlConstants.controlOnGradientColor(0.5)
-                                 : VynUIQmlConstants.labelColorForStyle(root.vynStyle, handleArea.containsMouse ? 0 : 1)
-            onTintChanged: requestPaint()
-            onPaint: {
-                const ctx = getContext("2d")
-                ctx.reset()
-                ctx.fillStyle = tint
-                const w = width, h = height, mid = w / 2, gap = Math.max(1, w * 0.08)
-                ctx.beginPath()
-                ctx.moveTo(0, h / 2)
-                ctx.lineTo(mid - gap, 0)
-                ctx.lineTo(mid - gap, h)
-                ctx.closePath()
-                ctx.fill()
-                ctx.beginPath()
-                ctx.moveTo(w, h / 2)
-                ctx.lineTo(mid + gap, 0)
-                ctx.lineTo(mid + gap, h)
-                ctx.closePath()
-                ctx.fill()
-            }
+        // The catalogue's pan handle (arrows left and right: drag sideways); brighter while
+        // hovered or panning.
+        Image {
+            anchors.fill: parent
+            source: VynImages.url("panHandle", root.vynStyle)
+            sourceSize.width: width
+            sourceSize.height: height
+            fillMode: Image.PreserveAspectFit
+            smooth: true
+            opacity: root.panning || handleArea.containsMouse ? 1.0 : VynUIQmlConstants.offlineAlpha()
         }
 
         MouseArea {
@@ -520,13 +503,16 @@ VynTextField {
         x: root.width - root.rightInset - width - insetTBL
         y: insetTBL + root._border
         height: root.height - 2 * (insetTBL + root._border)
-        readonly property string caption: root.allowsUnitChoosing ? root.unitText + " \u25BE" : root.unitText
-        width: Math.ceil(unitMetrics.advanceWidth)
+        readonly property real chevronSize: root.allowsUnitChoosing
+                                            ? Math.round(VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont) * 0.8) : 0
+        width: Math.ceil(unitMetrics.advanceWidth) + chevronSize
+               + (root.allowsUnitChoosing ? VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio) : 0)
                + 2 * VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
         TextMetrics {
             id: unitMetrics
-            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatio)
-            text: unitButton.caption
+            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+            font.family: VynFonts.vynFamilyRegular
+            text: root.unitText
         }
         background: Rectangle {
             visible: root.allowsUnitChoosing
@@ -535,12 +521,27 @@ VynTextField {
                    ? VynUIQmlConstants.controlColorForStyle(root.vynStyle, 1)
                    : unitButton.hovered ? VynUIQmlConstants.controlTouchOverColorForStyle(root.vynStyle) : "transparent"
         }
-        contentItem: Text {
-            text: unitButton.caption
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatio)
-            color: VynUIQmlConstants.labelColorForStyle(root.vynStyle, 1)
+        contentItem: Row {
+            leftPadding: VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
+            spacing: VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio)
+            VynLabel {
+                height: unitButton.height
+                text: root.unitText
+                vynStyle: root.vynStyle
+                vynControlSize: root.vynControlSize
+                vynPixelRatioFont: root.vynPixelRatioFont
+                level: 1
+            }
+            Image {
+                visible: root.allowsUnitChoosing
+                anchors.verticalCenter: parent.verticalCenter
+                width: unitButton.chevronSize
+                height: width
+                sourceSize.width: width
+                sourceSize.height: height
+                source: root.allowsUnitChoosing ? VynImages.url("chevronUpDown", root.vynStyle) : ""
+                opacity: VynUIQmlConstants.offlineAlpha()
+            }
         }
         onClicked: unitMenu.popup(unitButton, 0, unitButton.height)
 
@@ -573,7 +574,8 @@ VynTextField {
         focusPolicy: Qt.TabFocus
         TextMetrics {
             id: glyphMetrics
-            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatio)
+            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+            font.family: VynFonts.vynFamilyRegular
             text: stepButton.glyph
         }
         // A rounded face clipped so that only the outer corners stay round; a separator line
@@ -613,7 +615,8 @@ VynTextField {
             text: stepButton.glyph
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
-            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatio)
+            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+            font.family: VynFonts.vynFamilyRegular
             color: VynUIQmlConstants.controlTextColorForStyle(root.vynStyle, stepButton.down ? 1 : 0)
         }
         onPressAndHold: {

@@ -41,12 +41,8 @@ import "../Script/ComponentUtils.js" as ComponentUtils
 // 600 ms debounce, one call per burst.
 //
 // Without `live` a drag moves the thumb and offers the value once, as final, on release.
-Item {
+VynItem {
     id: root
-
-    property int vynStyle: VynColorUtils.VynStyleDark
-    property int vynControlSize: VynViewUtils.VynControlSizeRegular
-    property real vynPixelRatio: 1.0
 
     // --- Values ---
     property real defaultValue: 0.0

@@ -5,12 +5,8 @@ import VynUI 1.2
 // slider for coarse moves, the field for the exact number and the unit. Build it like
 // VynUISlider: `VynUISliderAndField { uiSlideFieldComponent: host.delayComponent }`.
 // `title` shows the parameter's name before the slider (the component's name by default).
-Item {
+VynItem {
     id: root
-
-    property int vynStyle: VynColorUtils.VynStyleDark
-    property int vynControlSize: VynViewUtils.VynControlSizeRegular
-    property real vynPixelRatio: 1.0
     property VynUISlideFieldComponent uiSlideFieldComponent: ownComponent
     property string title: uiSlideFieldComponent && uiSlideFieldComponent.wantsName
                            ? uiSlideFieldComponent.name : ""
@@ -23,16 +19,17 @@ Item {
     implicitHeight: Math.max(sliderItem.implicitHeight, fieldItem.implicitHeight)
     implicitWidth: titleItem.width + 12 * sliderItem.implicitHeight + fieldWidth + 2 * _spacing
 
-    Text {
+    VynLabel {
         id: titleItem
         visible: root.title.length > 0
         width: visible ? (root.titleWidth > 0 ? root.titleWidth : implicitWidth + root._spacing) : 0
         height: root.height
         text: root.title
-        elide: Text.ElideRight
-        verticalAlignment: Text.AlignVCenter
-        font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatio)
-        color: VynUIQmlConstants.labelColorForStyle(root.vynStyle, 1)
+        vynStyle: root.vynStyle
+        vynControlSize: root.vynControlSize
+        vynPixelRatio: root.vynPixelRatio
+        vynPixelRatioFont: root.vynPixelRatioFont
+        level: 1
     }
     VynUISlider {
         id: sliderItem
@@ -42,6 +39,7 @@ Item {
         vynStyle: root.vynStyle
         vynControlSize: root.vynControlSize
         vynPixelRatio: root.vynPixelRatio
+        vynPixelRatioFont: root.vynPixelRatioFont
         uiSliderComponent: root.uiSlideFieldComponent
     }
     VynUISlideField {
@@ -52,6 +50,7 @@ Item {
         vynStyle: root.vynStyle
         vynControlSize: root.vynControlSize
         vynPixelRatio: root.vynPixelRatio
+        vynPixelRatioFont: root.vynPixelRatioFont
         uiSlideFieldComponent: root.uiSlideFieldComponent
         allowsPanning: true
     }

@@ -27,7 +27,7 @@ import "../Script/ComponentUtils.js" as ComponentUtils
 // Look. `drawsBackground` and `drawsBorder` switch the well and its frame (an inline field in
 // a table draws neither); `mixed` shows the text in the catalogue's mixed colour (a multiple
 // selection). `autoResize` makes the implicit width follow the text. Metrics and colours come
-// from VynUIQmlConstants for `vynStyle`, `vynControlSize` and `vynPixelRatio`; the insets
+// from VynUIQmlConstants for `vynStyle`, `vynControlSize`, `vynPixelRatio` and `vynPixelRatioFont`; the insets
 // `leftInset`/`rightInset` of the background let a subclass put items beside the well
 // inside the field's own bounds.
 Basic.TextField {
@@ -36,6 +36,8 @@ Basic.TextField {
     property int vynStyle: VynColorUtils.VynStyleDark
     property int vynControlSize: VynViewUtils.VynControlSizeRegular
     property real vynPixelRatio: 1.0
+    // Scale of the font sizes, apart from the frame's (see VynItem).
+    property real vynPixelRatioFont: 1.0
 
     property string defaultText: ""
     property string fullText: defaultText
@@ -89,7 +91,8 @@ Basic.TextField {
     }
 
     text: _shownText()
-    font.pixelSize: VynUIQmlConstants.fontSize(vynControlSize, vynPixelRatio)
+    font.pixelSize: VynUIQmlConstants.fontSize(vynControlSize, vynPixelRatioFont)
+    font.family: VynFonts.vynFamilyRegular
     color: VynUIQmlConstants.textViewTextColorForStyle(vynStyle, mixed ? 1 : 0)
     selectionColor: VynUIQmlConstants.controlOnGradientColor(0.5)
     selectedTextColor: VynUIQmlConstants.controlTextColorForStyle(vynStyle, 1)
