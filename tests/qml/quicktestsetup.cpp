@@ -3,6 +3,7 @@
 #include <qapplicationmessage.h>
 #include <qcorewindowcontroller.h>
 #include <vynuiplugin.h>
+#include <vynuislidercomponent.h>
 
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -54,6 +55,35 @@ bool TestHost::attachWindowController(QObject* p_item)
 void TestHost::detachWindowController()
 {
     delete m_controller.data();
+}
+
+void TestHost::pushValue(QObject* p_component, double p_value, const QVariantList& p_values)
+{
+    auto* component = qobject_cast<VynUISliderComponent*>(p_component);
+    if (!component)
+        return;
+    QList<double> values;
+    bool mixed = false;
+    for (const QVariant& v : p_values) {
+        values.append(v.toDouble());
+        mixed = mixed || values.last() != values.first();
+    }
+    component->setValue(p_value, mixed, values);
+}
+
+void TestHost::watchEditing(QObject* p_component)
+{
+    disconnect(m_editedConnection);
+    m_editedCount = 0;
+    m_lastAutoClose = true;
+    auto* component = qobject_cast<VynUIComponent*>(p_component);
+    if (!component)
+        return;
+    m_editedConnection = connect(component, qOverload<bool>(&VynUIComponent::editedWhileMultiple),
+                                 this, [this](bool autoClose) {
+                                     ++m_editedCount;
+                                     m_lastAutoClose = autoClose;
+                                 });
 }
 
 QuickTestSetup::QuickTestSetup() = default;

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QVariantList>
 
 class QQmlEngine;
 class QCoreWindowController;
@@ -16,6 +17,11 @@ class QCoreWindowController;
 //   removePresenter() puts the application's default presenter back.
 // - attachWindowController(item): gives the window showing `item` a QCoreWindowController, as
 //   a host does for each of its windows; detachWindowController() removes it.
+// - pushValue(component, value, values): what a host does with device echoes,
+//   component->setValue(value, mixed, values), mixed when the values differ.
+// - watchEditing(component): counts the component's editedWhileMultiple(bool) as a host
+//   connected in C++ sees it (QML cannot tell the two overloads apart); editedCount and
+//   lastAutoClose report it.
 class TestHost : public QObject, public QApplicationMessagePresenter
 {
     Q_OBJECT
@@ -37,12 +43,19 @@ public:
     Q_INVOKABLE void removePresenter();
     Q_INVOKABLE bool attachWindowController(QObject* p_item);
     Q_INVOKABLE void detachWindowController();
+    Q_INVOKABLE void watchEditing(QObject* p_component);
+    Q_INVOKABLE int editedCount() const { return m_editedCount; }
+    Q_INVOKABLE bool lastAutoClose() const { return m_lastAutoClose; }
+    Q_INVOKABLE void pushValue(QObject* p_component, double p_value, const QVariantList& p_values);
 
 signals:
     void presented();
 
 private:
     int m_response = -1;
+    int m_editedCount = 0;
+    bool m_lastAutoClose = true;
+    QMetaObject::Connection m_editedConnection;
     int m_presentedCount = 0;
     QString m_lastTitle;
     QString m_lastMessage;

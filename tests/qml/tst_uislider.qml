@@ -194,6 +194,33 @@ TestCase {
         compare(bound.host.calls.filter(call => call.isFinal).length, data.confirmed ? 1 : 0)
     }
 
+    function test_mixedSelection() {
+        const bound = makeModel(fieldModelComponent, 0, 100, 10, 1)
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model })
+        const slider = createTemporaryObject(uiSliderComponent, testCase,
+                                             { "uiSliderComponent": bound.model, "to": 100 })
+        waitForRendering(field)
+        testHost.watchEditing(bound.model)
+        const done = createTemporaryObject(spyComponent, testCase,
+                                           { "target": bound.model, "signalName": "doneEditingWhileMultiple" })
+        testHost.pushValue(bound.model, 20, [20, 40])
+        verify(bound.model.mixed)
+        verify(field.mixed)
+        compare(field.text, VynUIQmlConstants.localizedString("MULTIPLE_SHORT"))
+        verify(slider.mixed)
+        compare(slider.displayedValue, 30) // the average of the selection
+        mouseClick(findChild(field, "plusButton"))
+        compare(testHost.editedCount(), 1)
+        compare(testHost.lastAutoClose(), false)
+        compare(bound.model.value, 21)
+        tryCompare(done, "count", 1, 2000)
+        // The selection's echo ends the mixed state.
+        testHost.pushValue(bound.model, 21, [21, 21])
+        verify(!field.mixed)
+        compare(field.text, bound.model.stringValue)
+    }
+
     function test_sliderAndFieldShareTheModel() {
         const bound = makeModel(fieldModelComponent, 0, 100, 10, 5)
         const pair = createTemporaryObject(pairComponent, testCase,

@@ -483,11 +483,15 @@ VynTextField {
                 if (!root.panning)
                     root.panningClicked()
             }
+            // Reported even when the press itself was ignored (a disabled field); only an open
+            // gesture stays long-pressed until its release, which then ends it unaccepted.
             onPressAndHold: function (mouse) {
                 if (root.panning)
                     return
                 root.isLongPressed = true
                 root.longPressed(mouse)
+                if (!gestureOpen)
+                    root.isLongPressed = false
             }
         }
     }

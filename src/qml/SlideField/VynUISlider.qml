@@ -1,6 +1,8 @@
 import QtQuick
 import VynUI 1.2
 
+import "../Script/ArrayUtils.js" as ArrayUtils
+
 // A slider bound to a device parameter through a VynUISliderComponent.
 //
 // How a host builds one: create the component, give it its range, value and transformer,
@@ -29,7 +31,8 @@ import VynUI 1.2
 // component's value (possibly modified by the host) is copied into the thumb at once. A
 // gesture that ends refused (confirmation declined, long press, cancel) puts the component
 // back to the gesture's start value: offered again as final when the intermediate values were
-// final, else stored without reaching the device. Pressing a mixed selection emits
+// final, else stored without reaching the device. A mixed selection shows the average of its
+// values. Pressing a mixed selection emits
 // editedWhileMultiple(false), its end doneEditingWhileMultiple(); a long press longPressed().
 VynSlider12 {
     id: root
@@ -91,7 +94,10 @@ VynSlider12 {
     Binding {
         target: root
         property: "value"
-        value: root.uiComponent ? root.uiComponent.value : 0
+        // A mixed selection shows the average of its values, as the generic slider does.
+        value: !root.uiComponent ? 0
+               : root.mixed && root.values.length > 0 ? ArrayUtils.average(root.values)
+                                                       : root.uiComponent.value
         when: root.uiComponent !== null && !root.dragging && !root.incrementing
         restoreMode: Binding.RestoreNone
     }
