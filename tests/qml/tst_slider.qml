@@ -221,6 +221,52 @@ TestCase {
         verify(!slider.mixed)
     }
 
+    Component {
+        id: modelComponent
+        VynUISliderComponent {}
+    }
+
+    function cleanup() {
+        testHost.removePresenter()
+        testHost.detachWindowController()
+    }
+
+    function test_shouldAlert_data() {
+        return [
+            { tag: "drag confirmed", response: QApplicationMessage.Response_Confirm, click: false, expected: 0.5 },
+            { tag: "drag refused", response: QApplicationMessage.Response_Cancel, click: false, expected: 0.25 },
+            { tag: "track click confirmed", response: QApplicationMessage.Response_Confirm, click: true, expected: 0.35 },
+            { tag: "track click refused", response: QApplicationMessage.Response_Cancel, click: true, expected: 0.25 }
+        ]
+    }
+    function test_shouldAlert(data) {
+        const model = createTemporaryObject(modelComponent, testCase)
+        const slider = makeSlider({ "uiSliderComponent": model,
+                                    "securityType": VynCommonConstants.VynSecurityTypeShouldAlert })
+        slider.setValue(0.25)
+        verify(testHost.attachWindowController(slider))
+        testHost.installAnsweringPresenter(data.response)
+        if (data.click) {
+            mouseClick(slider, thumbCentre(slider).x + 60, slider.height / 2)
+        } else {
+            drag(slider, 0.25 * slider._trackLength, 0)
+            // Drag values were offered as not final.
+            compare(slider.offers[0].isFinal, false)
+        }
+        compare(testHost.presentedCount, 1)
+        fuzzyCompare(slider.value, data.expected, 1e-9)
+        const finals = slider.offers.filter(o => o.isFinal)
+        compare(finals.length, data.response === QApplicationMessage.Response_Confirm ? 1 : 0)
+    }
+
+    function test_notLiveOffersOnceOnRelease() {
+        const slider = makeSlider({ "live": false })
+        drag(slider, 0.5 * slider._trackLength, 0)
+        compare(slider.offers.length, 1)
+        verify(slider.offers[0].isFinal)
+        fuzzyCompare(slider.value, 0.5, 1e-9)
+    }
+
     function test_ticks() {
         const slider = makeSlider({ "to": 4, "stepSize": 1, "drawsTicks": true })
         const ticks = []
