@@ -17,7 +17,8 @@ ApplicationWindow {
         { title: "Overview", source: "pages/OverviewPage.qml" },
         { title: "Style", source: "pages/StylePage.qml" },
         { title: "Components", source: "pages/ComponentsPage.qml" },
-        { title: "Labels", source: "pages/LabelsPage.qml" }
+        { title: "Labels", source: "pages/LabelsPage.qml" },
+        { title: "Controls", source: "pages/ControlsPage.qml" }
     ]
 
     width: 1280

@@ -7,6 +7,7 @@
 
 #include <QQuickWindow>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -59,6 +60,7 @@ VynSimulatedAmplifier::VynSimulatedAmplifier(QObject* parent) : QObject(parent)
     lockedDelay->setSecurityType(VynCommonConstants::VynSecurityTypeDisable);
     lockedDelay->setTooltipText(tr("Locked by the system engineer"));
 
+    note(tr("\u25CF %1 online, %2 parameters").arg(name()).arg(m_paths.size()));
     m_operatorTimer.setInterval(1500);
     connect(&m_operatorTimer, &QTimer::timeout, this, &VynSimulatedAmplifier::otherOperatorEdit);
 }
@@ -92,8 +94,13 @@ void VynSimulatedAmplifier::addParameter(VynUISliderComponent* component,
     component->setValue(value, false, {value});
     component->setPrevValue(value);
     component->setSlidingValidator([](VynUISliderComponent* c) { return c->enabled(); });
-    component->setValueValidator([this](VynUISliderComponent* c, double& proposed, bool, double,
-                                        bool) { return send(c, proposed); });
+    // A protected parameter previews the values of a gesture and sends only the confirmed one.
+    component->setValueValidator(
+        [this](VynUISliderComponent* c, double& proposed, bool, double, bool isFinal) {
+            if (!isFinal && c->securityType() == VynCommonConstants::VynSecurityTypeShouldAlert)
+                return c->enabled();
+            return send(c, proposed);
+        });
     m_set.insert(path, component);
 }
 
@@ -147,6 +154,54 @@ void VynSimulatedAmplifier::receive(const VynProxyParamPath& path, double value)
         slider->setExpecting(false);
         note(QStringLiteral("\u2190 %1 = %2").arg(path.toString(), slider->stringValue()));
     }
+    refreshSelection(path.getLastNameText());
+}
+
+VynUISliderComponent* VynSimulatedAmplifier::selection(const QString& parameter)
+{
+    if (VynUISliderComponent* existing = m_selections.value(parameter))
+        return existing;
+    VynUISliderComponent* first = component(1, parameter);
+    if (!first)
+        return nullptr;
+    auto* selection = qobject_cast<VynUISlideFieldComponent*>(first)
+                          ? new VynUISlideFieldComponent(this)
+                          : new VynUISliderComponent(this);
+    selection->setName(tr("All channels"));
+    selection->setWantsName(true);
+    selection->setTransformer(first->transformer());
+    selection->setMinValue(first->minValue());
+    selection->setMaxValue(first->maxValue());
+    selection->setInitValue(first->initValue());
+    selection->setWindowController(first->windowController());
+    selection->setSlidingValidator([](VynUISliderComponent* c) { return c->enabled(); });
+    selection->setValueValidator(
+        [this, parameter](VynUISliderComponent*, double& proposed, bool, double, bool) {
+            bool sent = false;
+            for (int channel = 1; channel <= kChannelCount; ++channel) {
+                VynUISliderComponent* member = component(channel, parameter);
+                double value = proposed;
+                if (member && member->securityType() == VynCommonConstants::VynSecurityTypeNone)
+                    sent = send(member, value) || sent;
+            }
+            return sent;
+        });
+    m_selections.insert(parameter, selection);
+    refreshSelection(parameter);
+    return selection;
+}
+
+void VynSimulatedAmplifier::refreshSelection(const QString& parameter)
+{
+    VynUISliderComponent* selection = m_selections.value(parameter);
+    if (!selection)
+        return;
+    QList<double> values;
+    for (int channel = 1; channel <= kChannelCount; ++channel)
+        values.append(m_device.value(channelPath(channel, parameter)).value);
+    const bool mixed =
+        std::any_of(values.cbegin(), values.cend(), [&](double v) { return v != values.first(); });
+    selection->setValue(values.first(), mixed, values);
 }
 
 void VynSimulatedAmplifier::otherOperatorEdit()

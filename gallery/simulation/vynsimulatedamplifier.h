@@ -23,7 +23,8 @@ class QCoreWindowController;
     m and ft) and ".../Frequency" (the high-pass corner, 20 Hz to 20 kHz, a
     slide field offering Hz and kHz). Every model is filed in componentSet()
     under its path. The gain of channel 1 asks for confirmation
-    (should-alert); the delay of the last channel is disabled.
+    (should-alert): the values of a gesture on it are only previewed, and the
+    confirmed one is sent; the delay of the last channel is disabled.
 
     An edit goes through the models' validators: the value validator sends it
     to the device, which stores it with its own resolution (0.1 dB, one sample
@@ -61,6 +62,14 @@ public:
 
     //! The model of \a parameter ("Gain", "Delay", "Frequency") of channel \a channel (1-based).
     Q_INVOKABLE VynUISliderComponent* component(int channel, const QString& parameter) const;
+    /*!
+        A model bound to \a parameter of every channel at once, the way a host binds a
+        multiple selection: its values are the channels' values, it is mixed while they
+        differ, and an edit is sent to every channel that is neither protected nor locked
+        (those are edited one by one). Made on first request, owned by the
+        amplifier; null for an unknown parameter.
+    */
+    Q_INVOKABLE VynUISliderComponent* selection(const QString& parameter);
     //! The value the device holds for \a path.
     Q_INVOKABLE double deviceValue(const QString& path) const;
     //! Lets the models present their confirmations over the window showing \a item.
@@ -91,6 +100,7 @@ private:
     double deviceResolution(const VynProxyParamPath& path, double value) const;
     void receive(const VynProxyParamPath& path, double value);
     void otherOperatorEdit();
+    void refreshSelection(const QString& parameter);
     void note(const QString& line);
 
     VynUIComponentSet m_set;
@@ -101,4 +111,5 @@ private:
     QRandomGenerator m_random{20261121};
     QStringList m_traffic;
     QPointer<QCoreWindowController> m_windowController;
+    QHash<QString, VynUISliderComponent*> m_selections;
 };

@@ -1,9 +1,11 @@
 #include "vynuiqmlconstants.h"
 
+#include <qtcommonsconstants.h>
 #include <qtcommonstitlebar.h>
 #include <vynfileutils.h>
 
 #include <QJSEngine>
+#include <QQmlEngine>
 #include <QQuickWindow>
 #include <QWindow>
 
@@ -1928,6 +1930,11 @@ QString VynUIQmlConstants::getMimeTypeUrls()
     return g_mimeTypeUrls;
 }
 
+QString VynUIQmlConstants::localizedString(const QString& p_key, const QString& p_table)
+{
+    return QtCommonsConstants::qLocalizedString(p_key, p_table);
+}
+
 // Slide field and amplifier output sizes.
 
 int VynUIQmlConstants::slideFieldZoneCount(double p_ratio)
@@ -3115,14 +3122,23 @@ QApplicationMessage::Completion completionFrom(const QJSValue& callback)
 
 } // namespace
 
+// An object returned to QML without a parent would become the engine's to collect: the host's
+// windows and controllers stay the host's.
+template <typename T> static T* keptByHost(T* object)
+{
+    if (object)
+        QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
+    return object;
+}
+
 QCoreWindowController* VynUIQmlConstants::windowControllerForQmlObject(QObject* p_object)
 {
-    return QCoreWindowController::controllerForQmlObject(p_object);
+    return keptByHost(QCoreWindowController::controllerForQmlObject(p_object));
 }
 
 QQuickWindow* VynUIQmlConstants::windowForQmlObject(QObject* p_object)
 {
-    return QCoreWindowController::windowForQmlObject(p_object);
+    return keptByHost(QCoreWindowController::windowForQmlObject(p_object));
 }
 
 QApplicationMessage*
@@ -3131,9 +3147,9 @@ VynUIQmlConstants::presentBasicMessage(const QString& p_title, const QString& p_
                                        const QVariant& p_windowControllers, QObject* p_parent,
                                        const QJSValue& p_completion, const QVariant& p_context)
 {
-    return QApplicationMessage::presentBasicMessage(
+    return keptByHost(QApplicationMessage::presentBasicMessage(
         p_title, p_message, p_tag, p_level, p_type, p_actionTitle,
-        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context);
+        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context));
 }
 
 QApplicationMessage* VynUIQmlConstants::presentConfirmMessage(
@@ -3141,9 +3157,9 @@ QApplicationMessage* VynUIQmlConstants::presentConfirmMessage(
     const QStringList& p_buttonTitles, const QVariant& p_windowControllers, QObject* p_parent,
     const QJSValue& p_completion, const QVariant& p_context)
 {
-    return QApplicationMessage::presentConfirmMessage(
+    return keptByHost(QApplicationMessage::presentConfirmMessage(
         p_title, p_message, p_tag, p_level, p_type, buttonPair(p_buttonTitles),
-        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context);
+        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context));
 }
 
 QApplicationMessage*
@@ -3152,9 +3168,9 @@ VynUIQmlConstants::presentCustomMessage(const QString& p_title, const QString& p
                                         const QVariant& p_windowControllers, QObject* p_parent,
                                         const QJSValue& p_completion, const QVariant& p_context)
 {
-    return QApplicationMessage::presentCustomMessage(
+    return keptByHost(QApplicationMessage::presentCustomMessage(
         p_title, p_message, p_tag, p_level, p_type, p_actionTitles,
-        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context);
+        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context));
 }
 
 QApplicationMessage* VynUIQmlConstants::presentConfirmMessageIfNeededForSecurityType(
@@ -3162,9 +3178,9 @@ QApplicationMessage* VynUIQmlConstants::presentConfirmMessageIfNeededForSecurity
     int p_type, const QStringList& p_buttonTitles, const QVariant& p_windowControllers,
     QObject* p_parent, const QJSValue& p_completion, const QVariant& p_context)
 {
-    return QApplicationMessage::presentConfirmMessageIfNeededForSecurityType(
+    return keptByHost(QApplicationMessage::presentConfirmMessageIfNeededForSecurityType(
         p_securityType, p_title, p_message, p_tag, p_level, p_type, buttonPair(p_buttonTitles),
-        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context);
+        controllersFrom(p_windowControllers), p_parent, completionFrom(p_completion), p_context));
 }
 
 double VynUIQmlConstants::liveModeButtonAlpha()

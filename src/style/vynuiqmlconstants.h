@@ -727,6 +727,15 @@ public:
     Q_INVOKABLE static QString getMimeTypeVynScreenComposition(); //!< "text/vynscreencomposition"
     Q_INVOKABLE static QString getMimeTypeUrls();                 //!< "text/uri-list"
 
+    /*!
+        The localised text of \a p_key in the QtCommons table \a p_table ("VynLocalizable"
+        or "VynUILocalizable"), for documents that show the module's words ("MULTIPLE_SHORT").
+        An unknown key answers what QtCommons answers for it.
+    */
+    Q_INVOKABLE static QString
+    localizedString(const QString& p_key,
+                    const QString& p_table = QStringLiteral("VynLocalizable"));
+
     static const QString g_mimeTypeOrla;
     static const QString g_mimeTypeQVariant;
     static const QString g_mimeTypeVynGrouping;

@@ -1,8 +1,90 @@
 #include "quicktestsetup.h"
 
+#include <qapplicationmessage.h>
+#include <qcorewindowcontroller.h>
 #include <vynuiplugin.h>
+#include <vynuislidercomponent.h>
 
+#include <QQmlContext>
 #include <QQmlEngine>
+#include <QQuickWindow>
+
+TestHost::TestHost(QObject* parent) : QObject(parent) {}
+
+TestHost::~TestHost()
+{
+    removePresenter();
+    detachWindowController();
+}
+
+void TestHost::present(QApplicationMessage* p_message)
+{
+    ++m_presentedCount;
+    m_lastTitle = p_message->title();
+    m_lastMessage = p_message->string();
+    emit presented();
+    p_message->respond(m_response);
+}
+
+void TestHost::installAnsweringPresenter(int p_response)
+{
+    m_response = p_response;
+    m_presentedCount = 0;
+    m_lastTitle.clear();
+    m_lastMessage.clear();
+    QApplicationMessage::setPresenter(this);
+    emit presented();
+}
+
+void TestHost::removePresenter()
+{
+    if (QApplicationMessage::presenter() == this)
+        QApplicationMessage::setPresenter(nullptr);
+}
+
+bool TestHost::attachWindowController(QObject* p_item)
+{
+    QQuickWindow* window = QCoreWindowController::windowForQmlObject(p_item);
+    if (!window)
+        return false;
+    detachWindowController();
+    m_controller = new QCoreWindowController(window, this);
+    return true;
+}
+
+void TestHost::detachWindowController()
+{
+    delete m_controller.data();
+}
+
+void TestHost::pushValue(QObject* p_component, double p_value, const QVariantList& p_values)
+{
+    auto* component = qobject_cast<VynUISliderComponent*>(p_component);
+    if (!component)
+        return;
+    QList<double> values;
+    bool mixed = false;
+    for (const QVariant& v : p_values) {
+        values.append(v.toDouble());
+        mixed = mixed || values.last() != values.first();
+    }
+    component->setValue(p_value, mixed, values);
+}
+
+void TestHost::watchEditing(QObject* p_component)
+{
+    disconnect(m_editedConnection);
+    m_editedCount = 0;
+    m_lastAutoClose = true;
+    auto* component = qobject_cast<VynUIComponent*>(p_component);
+    if (!component)
+        return;
+    m_editedConnection = connect(component, qOverload<bool>(&VynUIComponent::editedWhileMultiple),
+                                 this, [this](bool autoClose) {
+                                     ++m_editedCount;
+                                     m_lastAutoClose = autoClose;
+                                 });
+}
 
 QuickTestSetup::QuickTestSetup() = default;
 
@@ -16,6 +98,11 @@ void QuickTestSetup::applicationAvailable()
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine)
 {
     engine->addImportPath(QStringLiteral(VYNUI_QML_IMPORT_PATH));
+    engine->rootContext()->setContextProperty(QStringLiteral("testHost"), &m_host);
 }
 
-void QuickTestSetup::cleanupTestCase() {}
+void QuickTestSetup::cleanupTestCase()
+{
+    m_host.removePresenter();
+    m_host.detachWindowController();
+}

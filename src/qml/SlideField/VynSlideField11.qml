@@ -1,0 +1,669 @@
+import QtQuick
+import QtQuick.Controls.Basic as Basic
+import VynUI 1.2
+
+import "../Script/ComponentUtils.js" as ComponentUtils
+import "../Script/StringUtils.js" as StringUtils
+
+// The slide field: a numeric text field with an optional panning handle on its left, a unit
+// label or unit chooser on its right, and optional minus and plus buttons after it.
+//
+// The control never commits a value itself. Every change goes through the replaceable
+// function properties below (the validator functions), which a parameter-bound wrapper
+// (VynUISlideField) overrides to talk to its component model:
+//   shouldBeginSliding()                     may a gesture start?           default true
+//   slideFieldBeganSliding()                 a gesture or a click began     default nothing
+//   setLastValue(v)                          remember the value for undo    default lastValue = v
+//   slideFieldExpectsValue(v, forceAbsolute, prevValue, isFinal)
+//                                            offer a value, answer accepted default setValue(v), true
+//   slideFieldEndedSliding()                 the gesture (or burst) ended   default nothing
+// and the actions minusAction(), plusAction() and acceptAction(p_text).
+//
+// Panning. Pressing the handle and moving more than sliderTrackingThreshold() (3) pixels
+// horizontally starts a pan. The value is the pan's start value (truncated to a whole
+// number) plus the acceleration of the distance travelled: four zones starting at
+// slideFieldFrom(i) pixels with slideFieldRate(i) value units per pixel, the last one without
+// end, rounded to a whole number. The first movement counts twice (it starts the pan and is
+// the pan's first step), and distance moved while the value is pinned at `from` or `to` is not
+// kept, so turning back moves the value at once. With `enableValueLimitation` a step faster
+// than sliderMaxDistancePerSecond() is clamped to that speed and halved; with
+// `enableValueAttenuation` a step is attenuated by exp(-y^2 / (2 sigma^2)), y the vertical
+// distance from the press and sigma sliderYAttenuationFactor(), for fine control.
+//
+// Security. With VynSecurityTypeDisable presses, clicks and releases are ignored. With
+// VynSecurityTypeShouldAlert intermediate values are offered as not final and the change is
+// confirmed on release through the host's message service (VynUIQmlConstants.
+// presentConfirmMessage over the control's window, with the bound component's alert texts);
+// refused, the value goes back to `startValue`. A typed entry and a minus or plus click on a
+// should-alert field are confirmed the same way before they are offered. A release that
+// changed nothing asks nothing.
+//
+// Ending. A pan ends with slideFieldEndedSliding() at once. Clicks on minus and plus (and
+// long presses) end through a 600 ms debounce: a burst of clicks makes one end call, 600 ms
+// after the last click, so the host records a single undo step.
+VynTextField {
+    id: root
+
+    // --- Values ---
+    property real defaultValue: 0.0
+    property real value: defaultValue
+    property real displayedValue: value
+    property real virtualValue: value
+    property real startValue: value
+    property real lastValue: value
+    property real from: 0.0
+    property real to: 1000.0
+    property real stepSize: 1.0
+    property int securityType: VynCommonConstants.VynSecurityTypeNone
+    property bool enableValueAttenuation: false
+    property bool enableValueLimitation: false
+    property bool enableLogs: false
+    property bool isLongPressed: false
+    property VynUISlideFieldComponent uiSlideFieldComponent: null
+    // The value's text; the field shows it unless a text-field value or "mixed" says otherwise.
+    property string stringValue: String(displayedValue)
+    // A vynTextFieldValue from the model, or null.
+    property var textFieldValue: null
+    // Whether the last gesture ended accepted (false after a refusal, a long press, a cancel).
+    property bool gestureAccepted: true
+
+    // --- Slide field state ---
+    property bool canStartPanning: false
+    property bool panning: false
+    property bool incrementing: false
+    property bool hasMinus: false
+    property bool hasPlus: false
+    property bool allowsPanning: false
+    property bool isReverse: false
+    property alias title: titleLabel.text
+    readonly property bool hasTitle: title.length > 0
+    property var unitModel: []
+    property int unitIndex: 0
+    property string unitText: allowsUnitChoosing ? String(unitModel[Math.max(0, unitIndex)]) : ""
+    readonly property bool allowsUnitChoosing: unitModel !== null && unitModel !== undefined
+                                               && unitModel.length > 1
+    property bool displaysUnit: allowsUnitChoosing
+    // Compressed: no title, no unit; for tight rows.
+    property bool compressed: false
+    // Title column width; 0 sizes it to the title.
+    property real titleWidth: 0
+
+    // --- Text field (see VynTextField) ---
+    defaultText: textFieldValue && textFieldValue.text !== undefined && textFieldValue.text.length > 0
+                 ? textFieldValue.text
+                 : (mixed ? VynUIQmlConstants.localizedString("MULTIPLE_SHORT") : stringValue)
+    // An entry equal to the shown text or blank changes nothing; a protected field asks first.
+    // (Set imperatively: a binding named on... would read as a signal handler.)
+    function _acceptEntry(p_fullText, p_byKey) {
+        if (p_fullText === root.defaultText || StringUtils.isNullOrWhiteSpace(p_fullText))
+            return
+        root._confirmThen(function () {
+            root.acceptAction.call(root, p_fullText)
+        }, function () {})
+    }
+    Component.onCompleted: onAcceptedCallback = _acceptEntry
+
+    signal minusClicked()
+    signal plusClicked()
+    signal panningClicked()
+    signal unitClicked(int p_index)
+    signal longPressed(var p_mouse)
+
+    // --- Validator functions ---
+    property var shouldBeginSliding: function () {
+        return true
+    }
+    property var slideFieldBeganSliding: function () {}
+    property var setLastValue: function (p_value) {
+        root.lastValue = p_value
+    }
+    property var slideFieldExpectsValue: function (p_newValue, p_forceAbsolute, p_prevValue, p_isFinal) {
+        root.setValue(p_newValue)
+        return true
+    }
+    property var slideFieldEndedSliding: function () {}
+
+    // --- Actions ---
+    property var minusAction: function () {
+        root._offerStep(root.isReverse ? root.stepSize : -root.stepSize)
+    }
+    property var plusAction: function () {
+        root._offerStep(root.isReverse ? -root.stepSize : root.stepSize)
+    }
+    property var acceptAction: function (p_text) {
+        const typed = parseFloat(String(p_text).trim())
+        if (isNaN(typed))
+            return
+        root._offerFinal(root._clamped(typed), true)
+    }
+
+    readonly property int _slideFieldEndedTimerDelay: 600
+
+    function setValue(p_value, p_truncate = true) {
+        const v = p_truncate ? _clamped(p_value) : p_value
+        value = v
+        if (!panning)
+            virtualValue = v
+    }
+
+    // The value increase of the acceleration zones for a pan distance (signed, rounded).
+    function valueIncreaseForDistance(p_distance) {
+        const distance = Math.abs(p_distance)
+        const zones = VynUIQmlConstants.slideFieldZoneCount()
+        let sum = 0
+        for (let i = 0; i < zones; ++i) {
+            const start = VynUIQmlConstants.slideFieldFrom(i)
+            if (distance <= start)
+                break
+            const end = i + 1 < zones ? VynUIQmlConstants.slideFieldFrom(i + 1) : Infinity
+            sum += (Math.min(distance, end) - start) * VynUIQmlConstants.slideFieldRate(i)
+        }
+        let signed = p_distance < 0 ? -sum : sum
+        if (isReverse)
+            signed = -signed
+        return Math.floor(signed + 0.5)
+    }
+
+    function _clamped(p_value) {
+        return Math.max(from, Math.min(to, p_value))
+    }
+
+    function _log(p_event, p_message) {
+        if (enableLogs)
+            console.log("VynSlideField11", p_event, p_message)
+    }
+
+    // Offers a final value outside a pan (a step or a typed entry), restoring lastValue when it
+    // is refused.
+    function _offerFinal(p_value, p_forceAbsolute) {
+        if (p_value === value)
+            return true
+        const previousLastValue = lastValue
+        setLastValue.call(root, value)
+        const accepted = slideFieldExpectsValue.call(root, p_value, p_forceAbsolute, lastValue, true)
+        if (!accepted)
+            setLastValue.call(root, previousLastValue)
+        _log("offer", p_value + (accepted ? " accepted" : " refused"))
+        return accepted
+    }
+
+    function _offerStep(p_delta) {
+        _offerFinal(_clamped(value + p_delta), false)
+    }
+
+    // Runs p_action at once, or after the user confirmed when the security type asks for it;
+    // p_refused runs when the user refuses or cannot be asked.
+    function _confirmThen(p_action, p_refused) {
+        if (securityType !== VynCommonConstants.VynSecurityTypeShouldAlert) {
+            p_action()
+            return
+        }
+        const controller = VynUIQmlConstants.windowControllerForQmlObject(root)
+        const window = VynUIQmlConstants.windowForQmlObject(root)
+        if (!uiSlideFieldComponent || !controller || !window) {
+            console.warn("Error: cannot display alert. Security type is set should alert and the windowController or parentWindow reference is null.")
+            p_refused()
+            return
+        }
+        VynUIQmlConstants.presentConfirmMessage(uiSlideFieldComponent.securityAlertTitle,
+                                                uiSlideFieldComponent.securityAlertMessage, 0,
+                                                QApplicationMessage.Level_Warn,
+                                                QApplicationMessage.Type_Popup, [], controller,
+                                                window, function (p_response) {
+                                                    if (p_response === QApplicationMessage.Response_Confirm)
+                                                        p_action()
+                                                    else
+                                                        p_refused()
+                                                })
+    }
+
+    function _endSlidingDebounced() {
+        ComponentUtils.delayFunction(endedTimer, _slideFieldEndedTimerDelay, function () {
+            root.slideFieldEndedSliding.call(root)
+        }, true)
+    }
+
+    // --- Panning ---
+    property point _panStartPoint: Qt.point(0, 0)
+    property point _panLastPoint: Qt.point(0, 0)
+    property real _panDistance: 0
+    property int _panStartValue: 0
+    property real _panLastStepTime: 0
+
+    function _panPress(p_x, p_y) {
+        if (securityType === VynCommonConstants.VynSecurityTypeDisable || !shouldBeginSliding.call(root))
+            return false
+        _panStartPoint = Qt.point(p_x, p_y)
+        startValue = value
+        setLastValue.call(root, value)
+        canStartPanning = true
+        return true
+    }
+
+    function _panMove(p_x, p_y) {
+        if (!panning) {
+            if (!canStartPanning
+                    || Math.abs(p_x - _panStartPoint.x) <= VynUIQmlConstants.sliderTrackingThreshold())
+                return
+            panning = true
+            _panLastPoint = _panStartPoint
+            _panStartValue = Math.trunc(value)
+            _panDistance = p_x - _panStartPoint.x
+            _panLastStepTime = 0
+            virtualValue = value
+            slideFieldBeganSliding.call(root)
+            _log("pan", "began at " + value)
+        }
+        _panStep(p_x, p_y)
+    }
+
+    function _panStep(p_x, p_y) {
+        let delta = p_x - _panLastPoint.x
+        const now = Date.now()
+        if (enableValueLimitation && _panLastStepTime > 0) {
+            const limit = VynUIQmlConstants.sliderMaxDistancePerSecond() * (now - _panLastStepTime) / 1000
+            if (Math.abs(delta) > limit)
+                delta = Math.max(-limit, Math.min(limit, delta)) / 2
+        }
+        if (enableValueAttenuation) {
+            const y = p_y - _panStartPoint.y
+            const sigma = VynUIQmlConstants.sliderYAttenuationFactor()
+            delta *= Math.exp(-(y * y) / (2 * sigma * sigma))
+        }
+        let newValue = _panStartValue + valueIncreaseForDistance(_panDistance + delta)
+        if (newValue !== virtualValue) {
+            newValue = _clamped(newValue)
+            if (newValue !== virtualValue) {
+                const previousLastValue = lastValue
+                setLastValue.call(root, virtualValue)
+                const isFinal = securityType === VynCommonConstants.VynSecurityTypeNone
+                if (!slideFieldExpectsValue.call(root, newValue, false, lastValue, isFinal))
+                    setLastValue.call(root, previousLastValue)
+            }
+        }
+        virtualValue = newValue
+        if (newValue !== from && newValue !== to) {
+            _panLastPoint = Qt.point(p_x, p_y)
+            _panLastStepTime = now
+            _panDistance += delta
+        }
+    }
+
+    function _release(p_cancelled) {
+        if (securityType === VynCommonConstants.VynSecurityTypeDisable)
+            return
+        if (isLongPressed) {
+            _endGesture(false, p_cancelled)
+            return
+        }
+        const changed = panning && virtualValue !== startValue
+        if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert && changed) {
+            if (p_cancelled) {
+                _endGesture(false, true)
+                return
+            }
+            _confirmThen(function () {
+                root._endGesture(true, false)
+            }, function () {
+                root._endGesture(false, false)
+            })
+            return
+        }
+        _endGesture(true, p_cancelled)
+    }
+
+    function _endGesture(p_accepted, p_cancelled) {
+        if (panning) {
+            if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert && p_accepted
+                    && !p_cancelled && virtualValue !== startValue) {
+                setLastValue.call(root, startValue)
+                if (!slideFieldExpectsValue.call(root, virtualValue, false, lastValue, true))
+                    setValue(startValue)
+            }
+            panning = false
+        }
+        if (!p_accepted || p_cancelled)
+            setValue(startValue)
+        gestureAccepted = p_accepted && !p_cancelled
+        canStartPanning = false
+        if (!incrementing && !isLongPressed) {
+            slideFieldEndedSliding.call(root)
+        } else {
+            incrementing = false
+            isLongPressed = false
+            _endSlidingDebounced()
+        }
+        _log("pan", "ended " + (gestureAccepted ? "accepted" : "refused"))
+    }
+
+    // --- Minus and plus ---
+    function _click(p_plus, p_button) {
+        if (securityType === VynCommonConstants.VynSecurityTypeDisable || isLongPressed
+                || !shouldBeginSliding.call(root))
+            return
+        const run = function () {
+            root.incrementing = true
+            root.focus = false
+            p_button.forceActiveFocus()
+            root.startValue = root.value
+            root.slideFieldBeganSliding.call(root)
+            if (p_plus)
+                root.plusClicked()
+            else
+                root.minusClicked()
+            root.incrementing = false
+            root.gestureAccepted = true
+            root._endSlidingDebounced()
+        }
+        _confirmThen(run, function () {})
+    }
+
+    onMinusClicked: minusAction.call(root)
+    onPlusClicked: plusAction.call(root)
+
+    // --- Geometry ---
+    readonly property real _fieldHeight: VynUIQmlConstants.textFieldHeight(vynControlSize, vynPixelRatio)
+    readonly property real _border: Math.max(1, VynUIQmlConstants.textFieldBorder(vynPixelRatio))
+    readonly property real _titleRoom: hasTitle && !compressed
+                                       ? (titleWidth > 0 ? titleWidth : Math.ceil(titleLabel.implicitWidth))
+                                         + VynUIQmlConstants.textFieldLabelTextSpacing(vynControlSize, vynPixelRatio)
+                                       : 0
+    readonly property real _handleRoom: allowsPanning
+                                        ? VynUIQmlConstants.textFieldPanningIconInsetsL(vynControlSize, vynPixelRatio)
+                                          + panHandle.width
+                                          + VynUIQmlConstants.textFieldPanningIconTextSpacing(vynControlSize, vynPixelRatio)
+                                        : 0
+    readonly property bool _showsUnit: (displaysUnit || unitText.length > 0) && !compressed
+                                       && unitText.length > 0
+    readonly property real _unitRoom: _showsUnit
+                                      ? unitButton.width + VynUIQmlConstants.textFieldUnitButtonTextSpacing(vynControlSize, vynPixelRatio)
+                                        + VynUIQmlConstants.textFieldUnitButtonInsetsTBL(vynControlSize, vynPixelRatio)
+                                      : 0
+    readonly property real _buttonsRoom: (hasMinus ? _minusWidth : 0) + (hasPlus ? _plusWidth : 0)
+
+    readonly property real _buttonsGap: hasMinus || hasPlus
+                                        ? VynUIQmlConstants.marginSpace(vynControlSize, vynPixelRatio) : 0
+
+    implicitHeight: _fieldHeight
+    implicitWidth: autoResize
+                   ? leftPadding + rightPadding + Math.ceil(measure.advanceWidth)
+                   : _titleRoom + _buttonsRoom + _buttonsGap + 4 * _fieldHeight + _handleRoom + _unitRoom
+    leftInset: _titleRoom
+    rightInset: _buttonsRoom + _buttonsGap
+    textInsetLeft: allowsPanning ? _handleRoom - VynUIQmlConstants.textFieldTextInsetsH(vynControlSize, vynPixelRatio) : 0
+    textInsetRight: _unitRoom
+
+    TextMetrics {
+        id: measure
+        font: root.font
+        text: root.editing ? root.text : root.fullText
+    }
+
+    maximumLength: 100
+    validator: DoubleValidator {
+        locale: "en_EN"
+    }
+    horizontalAlignment: TextInput.AlignRight
+
+    Timer {
+        id: endedTimer
+    }
+
+    // --- Title ---
+    VynLabel {
+        id: titleLabel
+        objectName: "titleLabel"
+        visible: root.hasTitle && !root.compressed
+        x: 0
+        width: root.titleWidth > 0 ? root.titleWidth : implicitWidth
+        height: root.height
+        vynStyle: root.vynStyle
+        vynControlSize: root.vynControlSize
+        vynPixelRatio: root.vynPixelRatio
+        vynPixelRatioFont: root.vynPixelRatioFont
+        level: 1
+    }
+
+    // --- Panning handle ---
+    Item {
+        id: panHandle
+        objectName: "panningHandle"
+        visible: root.allowsPanning
+        x: root.leftInset + VynUIQmlConstants.textFieldPanningIconInsetsL(root.vynControlSize, root.vynPixelRatio)
+        height: Math.max(VynUIQmlConstants.textFieldPanningIconHeightMin(root.vynPixelRatio),
+                         Math.round(root.height * VynUIQmlConstants.textFieldPanningIconHeightRatio()))
+        width: height
+        y: Math.round((root.height - height) / 2)
+
+        // The catalogue's pan handle (arrows left and right: drag sideways); brighter while
+        // hovered or panning.
+        Image {
+            anchors.fill: parent
+            source: VynImages.url("panHandle", root.vynStyle)
+            sourceSize.width: width
+            sourceSize.height: height
+            fillMode: Image.PreserveAspectFit
+            smooth: true
+            opacity: root.panning || handleArea.containsMouse ? 1.0 : VynUIQmlConstants.offlineAlpha()
+        }
+
+        MouseArea {
+            id: handleArea
+            objectName: "panningArea"
+            anchors.fill: parent
+            anchors.margins: -Math.round(root.height * 0.1)
+            hoverEnabled: true
+            preventStealing: true
+            cursorShape: Qt.SizeHorCursor
+            acceptedButtons: Qt.LeftButton
+            property bool gestureOpen: false
+            onPressed: function (mouse) {
+                const p = mapToItem(root, mouse.x, mouse.y)
+                gestureOpen = root._panPress(p.x, p.y)
+            }
+            onPositionChanged: function (mouse) {
+                if (!gestureOpen)
+                    return
+                const p = mapToItem(root, mouse.x, mouse.y)
+                root._panMove(p.x, p.y)
+            }
+            onReleased: function (mouse) {
+                if (!gestureOpen)
+                    return
+                gestureOpen = false
+                root._release(false)
+            }
+            onCanceled: {
+                if (!gestureOpen)
+                    return
+                gestureOpen = false
+                root._release(true)
+            }
+            onClicked: function (mouse) {
+                if (!root.panning)
+                    root.panningClicked()
+            }
+            // Reported even when the press itself was ignored (a disabled field); only an open
+            // gesture stays long-pressed until its release, which then ends it unaccepted.
+            onPressAndHold: function (mouse) {
+                if (root.panning)
+                    return
+                root.isLongPressed = true
+                root.longPressed(mouse)
+                if (!gestureOpen)
+                    root.isLongPressed = false
+            }
+        }
+    }
+
+    // --- Unit label or chooser ---
+    Basic.AbstractButton {
+        id: unitButton
+        objectName: "unitButton"
+        visible: root._showsUnit
+        enabled: root.allowsUnitChoosing && root.enabled
+        focusPolicy: Qt.NoFocus
+        readonly property real insetTBL: VynUIQmlConstants.textFieldUnitButtonInsetsTBL(root.vynControlSize, root.vynPixelRatio)
+        x: root.width - root.rightInset - width - insetTBL
+        y: insetTBL + root._border
+        height: root.height - 2 * (insetTBL + root._border)
+        readonly property real chevronSize: root.allowsUnitChoosing
+                                            ? Math.round(VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont) * 0.8) : 0
+        width: Math.ceil(unitMetrics.advanceWidth) + chevronSize
+               + (root.allowsUnitChoosing ? VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio) : 0)
+               + 2 * VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
+        TextMetrics {
+            id: unitMetrics
+            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+            font.family: VynFonts.vynFamilyRegular
+            text: root.unitText
+        }
+        background: Rectangle {
+            visible: root.allowsUnitChoosing
+            radius: VynUIQmlConstants.popupButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
+            color: unitButton.pressed || unitMenu.visible
+                   ? VynUIQmlConstants.controlColorForStyle(root.vynStyle, 1)
+                   : unitButton.hovered ? VynUIQmlConstants.controlTouchOverColorForStyle(root.vynStyle) : "transparent"
+        }
+        contentItem: Row {
+            leftPadding: VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
+            spacing: VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio)
+            VynLabel {
+                height: unitButton.height
+                text: root.unitText
+                vynStyle: root.vynStyle
+                vynControlSize: root.vynControlSize
+                vynPixelRatioFont: root.vynPixelRatioFont
+                level: 1
+            }
+            Image {
+                visible: root.allowsUnitChoosing
+                anchors.verticalCenter: parent.verticalCenter
+                width: unitButton.chevronSize
+                height: width
+                sourceSize.width: width
+                sourceSize.height: height
+                source: root.allowsUnitChoosing ? VynImages.url("chevronUpDown", root.vynStyle) : ""
+                opacity: VynUIQmlConstants.offlineAlpha()
+            }
+        }
+        onClicked: unitMenu.popup(unitButton, 0, unitButton.height)
+
+        Basic.Menu {
+            id: unitMenu
+            Repeater {
+                model: root.allowsUnitChoosing ? root.unitModel : []
+                Basic.MenuItem {
+                    required property var modelData
+                    required property int index
+                    text: String(modelData)
+                    checkable: true
+                    checked: index === root.unitIndex
+                    onTriggered: root.unitClicked(index)
+                }
+            }
+        }
+    }
+
+    // --- Minus and plus buttons ---
+    component StepButton: Basic.AbstractButton {
+        id: stepButton
+        property string glyph
+        property bool leftRounded: true
+        property bool rightRounded: true
+        readonly property int glyphWidth: Math.round(glyphMetrics.advanceWidth)
+        readonly property real radius: VynUIQmlConstants.bezelButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
+        readonly property real borderWidth: Math.max(1, VynUIQmlConstants.bezelButtonBorder(root.vynPixelRatio))
+        height: root.height
+        focusPolicy: Qt.TabFocus
+        TextMetrics {
+            id: glyphMetrics
+            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+            font.family: VynFonts.vynFamilyRegular
+            text: stepButton.glyph
+        }
+        // A rounded face clipped so that only the outer corners stay round; a separator line
+        // closes the inner side.
+        background: Item {
+            clip: true
+            Rectangle {
+                x: stepButton.leftRounded ? 0 : -stepButton.radius - stepButton.borderWidth
+                width: parent.width + (stepButton.leftRounded ? 0 : stepButton.radius + stepButton.borderWidth)
+                       + (stepButton.rightRounded ? 0 : stepButton.radius + stepButton.borderWidth)
+                height: parent.height
+                radius: stepButton.radius
+                border.width: stepButton.borderWidth
+                border.color: VynUIQmlConstants.controlBorderColorForStyle(root.vynStyle, stepButton.down ? 1 : 0)
+                gradient: Gradient {
+                    GradientStop {
+                        position: 0.0
+                        color: stepButton.down ? VynUIQmlConstants.controlOnGradientColor(0)
+                                               : VynUIQmlConstants.controlOffGradientColorForStyle(0, root.vynStyle, true)
+                    }
+                    GradientStop {
+                        position: 1.0
+                        color: stepButton.down ? VynUIQmlConstants.controlOnGradientColor(1)
+                                               : VynUIQmlConstants.controlOffGradientColorForStyle(1, root.vynStyle, true)
+                    }
+                }
+            }
+            Rectangle {
+                visible: !stepButton.rightRounded
+                x: parent.width - width
+                width: stepButton.borderWidth
+                height: parent.height
+                color: VynUIQmlConstants.controlBorderColorForStyle(root.vynStyle, 0)
+            }
+        }
+        contentItem: Text {
+            text: stepButton.glyph
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+            font.family: VynFonts.vynFamilyRegular
+            color: VynUIQmlConstants.controlTextColorForStyle(root.vynStyle, stepButton.down ? 1 : 0)
+        }
+        onPressAndHold: {
+            if (root.panning)
+                return
+            root.isLongPressed = true
+            root.longPressed(null)
+            root.isLongPressed = false
+        }
+    }
+
+    // Minus: 1.9 x its glyph's width, rounded, raised by one to the glyph's parity; plus: the
+    // minus width raised likewise to the parity of its own glyph.
+    readonly property int _minusWidth: {
+        const g = minusButton.glyphWidth
+        const w = Math.round(1.9 * g)
+        return (w % 2) === (g % 2) ? w : w + 1
+    }
+    readonly property int _plusWidth: {
+        const g = plusButton.glyphWidth
+        return (_minusWidth % 2) === (g % 2) ? _minusWidth : _minusWidth + 1
+    }
+
+    StepButton {
+        id: minusButton
+        objectName: "minusButton"
+        glyph: "\u2013"
+        visible: root.hasMinus
+        width: root._minusWidth
+        x: root.width - root._buttonsRoom
+        leftRounded: true
+        rightRounded: !root.hasPlus
+        onClicked: root._click(false, minusButton)
+    }
+    StepButton {
+        id: plusButton
+        objectName: "plusButton"
+        glyph: "+"
+        visible: root.hasPlus
+        width: root._plusWidth
+        x: root.width - width
+        leftRounded: !root.hasMinus
+        rightRounded: true
+        onClicked: root._click(true, plusButton)
+    }
+}

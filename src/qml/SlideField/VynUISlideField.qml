@@ -1,0 +1,113 @@
+import QtQuick
+import VynUI 1.2
+
+// A slide field bound to a device parameter through a VynUISlideFieldComponent; built by a
+// host exactly like VynUISlider (component, two validators, and
+// `VynUISlideField { uiSlideFieldComponent: host.delayComponent }`), plus a unit validator
+// when the parameter offers several units.
+//
+// The field works on the component's raw value (range, steps and pan acceleration in raw
+// units) and shows it through the component's transformer in the current unit, without the
+// unit, which the unit label or chooser shows (the chooser appears when the component allows
+// unit choosing and asks the component to change units). A typed number is read in the
+// current unit and converted back to raw. "Mult." stands for a mixed selection. The other
+// binding rules are VynUISlider's.
+VynSlideField11 {
+    id: root
+
+    readonly property VynUISlideFieldComponent uiComponent: uiSlideFieldComponent
+
+    property bool _editedWhileMultiple: false
+
+    uiSlideFieldComponent: ownComponent
+    from: uiComponent ? uiComponent.minValue : 0
+    to: uiComponent ? uiComponent.maxValue : 1000
+    defaultValue: uiComponent ? uiComponent.initValue : 0
+    mixed: uiComponent ? uiComponent.mixed : false
+    securityType: uiComponent ? uiComponent.securityType : VynCommonConstants.VynSecurityTypeNone
+    enabled: uiComponent ? uiComponent.enabled : false
+    displayedValue: uiComponent ? uiComponent.displayedValue : value
+    stringValue: {
+        const c = root.uiComponent
+        if (!c)
+            return String(root.value)
+        // Depends on the unit and the text so that a unit change re-formats.
+        const unit = c.unitIndex
+        const text = c.stringValue
+        return c.transformer ? c.transformer.valueToString(c.value, false, false) : text
+    }
+    unitModel: uiComponent ? uiComponent.units : []
+    unitIndex: uiComponent ? uiComponent.unitIndex : -1
+    unitText: uiComponent && uiComponent.transformer ? uiComponent.transformer.currentUnit : ""
+    displaysUnit: unitText.length > 0
+    onUnitClicked: function (p_index) {
+        if (uiComponent)
+            uiComponent.chooseUnitAction(p_index)
+    }
+
+    shouldBeginSliding: function () {
+        return root.uiComponent !== null && root.uiComponent.shouldBeginSliding()
+    }
+    slideFieldBeganSliding: function () {
+        const c = root.uiComponent
+        if (c.mixed) {
+            root._editedWhileMultiple = true
+            c.editedWhileMultiple(false)
+        }
+        c.slidingBegan()
+        c.sliding = root.panning
+    }
+    slideFieldExpectsValue: function (p_newValue, p_forceAbsolute, p_prevValue, p_isFinal) {
+        const c = root.uiComponent
+        const accepted = c.expectsValue(p_newValue, false, p_prevValue, p_isFinal)
+        root.setValue(c.value, false)
+        return accepted
+    }
+    slideFieldEndedSliding: function () {
+        const c = root.uiComponent
+        if (!root.gestureAccepted && c.value !== root.startValue) {
+            if (root.securityType === VynCommonConstants.VynSecurityTypeNone)
+                c.expectsValue(root.startValue, false, c.prevValue, true)
+            else
+                c.value = root.startValue
+        }
+        c.slidingEnded()
+        c.prevValue = c.value
+        c.sliding = false
+        if (root._editedWhileMultiple) {
+            root._editedWhileMultiple = false
+            c.doneEditingWhileMultiple()
+        }
+    }
+    acceptAction: function (p_text) {
+        const typed = parseFloat(String(p_text).trim())
+        const c = root.uiComponent
+        if (isNaN(typed) || !c)
+            return
+        const raw = c.transformer ? c.transformer.displayedToRaw(typed) : typed
+        const previousLastValue = root.lastValue
+        root.setLastValue.call(root, root.value)
+        c.slidingBegan()
+        if (!root.slideFieldExpectsValue.call(root, root._clamped(raw), true, root.lastValue, true))
+            root.setLastValue.call(root, previousLastValue)
+        c.slidingEnded()
+        c.prevValue = c.value
+    }
+
+    onLongPressed: function (p_mouse) {
+        if (uiComponent)
+            uiComponent.longPressed()
+    }
+
+    Binding {
+        target: root
+        property: "value"
+        value: root.uiComponent ? root.uiComponent.value : 0
+        when: root.uiComponent !== null && !root.panning && !root.incrementing
+        restoreMode: Binding.RestoreNone
+    }
+
+    VynUISlideFieldComponent {
+        id: ownComponent
+    }
+}

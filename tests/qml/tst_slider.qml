@@ -1,0 +1,282 @@
+import QtQuick
+import QtTest
+import VynUI 1.2
+
+// The slider under real pointer and wheel events: dragging in both orientations and
+// directions, track clicks, double click, the wheel with its modifiers, mixed values and the
+// end-of-gesture debounce.
+TestCase {
+    id: testCase
+    name: "Slider"
+    width: 700
+    height: 400
+    visible: true
+    when: windowShown
+
+    Component {
+        id: sliderComponent
+        VynSlider12 {
+            x: 100
+            y: 100
+            width: 210
+            property var offers: []
+            property int endedCount: 0
+            property int beganCount: 0
+            sliderExpectsValue: function (p_newValue, p_forceAbsolute, p_prevValue, p_isFinal) {
+                offers.push({ "value": p_newValue, "isFinal": p_isFinal })
+                setValue(p_newValue)
+                return true
+            }
+            sliderBeganSliding: function () { beganCount += 1 }
+            sliderEndedSliding: function () { endedCount += 1 }
+        }
+    }
+
+    function makeSlider(p_properties) {
+        const slider = createTemporaryObject(sliderComponent, testCase, p_properties)
+        verify(slider)
+        waitForRendering(slider)
+        return slider
+    }
+
+    // The thumb's centre in the slider's coordinates.
+    function thumbCentre(p_slider) {
+        const thumb = findChild(p_slider, "thumb")
+        return thumb.mapToItem(p_slider, thumb.width / 2, thumb.height / 2)
+    }
+
+    function drag(p_slider, p_dx, p_dy) {
+        const c = thumbCentre(p_slider)
+        mousePress(p_slider, c.x, c.y, Qt.LeftButton)
+        const steps = 4
+        for (let i = 1; i <= steps; ++i)
+            mouseMove(p_slider, c.x + p_dx * i / steps, c.y + p_dy * i / steps, -1, Qt.LeftButton)
+        mouseRelease(p_slider, c.x + p_dx, c.y + p_dy, Qt.LeftButton)
+    }
+
+    function test_drag_data() {
+        // Track length is the slider's length minus one thumb.
+        return [
+            { tag: "right", props: {}, dx: 50, dy: 0, sign: 1 },
+            { tag: "left from 1", props: { "value": 1 }, dx: -50, dy: 0, sign: -1 },
+            { tag: "reverse", props: { "reverse": true }, dx: -50, dy: 0, sign: 1 },
+            { tag: "mirror", props: { "mirror": true }, dx: -50, dy: 0, sign: 1 },
+            { tag: "mirror and reverse", props: { "mirror": true, "reverse": true }, dx: 50, dy: 0, sign: 1 },
+            { tag: "vertical up", props: { "orientation": Qt.Vertical, "width": 20, "height": 210 }, dx: 0, dy: -50, sign: 1 },
+            { tag: "vertical mirrored down", props: { "orientation": Qt.Vertical, "mirror": true, "width": 20, "height": 210 }, dx: 0, dy: 50, sign: 1 }
+        ]
+    }
+    function test_drag(data) {
+        const slider = makeSlider(data.props)
+        const start = slider.value
+        drag(slider, data.dx, data.dy)
+        const moved = Math.abs(data.dx + data.dy)
+        fuzzyCompare(slider.value, start + data.sign * moved / slider._trackLength, 1e-9)
+        compare(slider.endedCount, 1)
+        compare(slider.beganCount, 1)
+        verify(slider.offers.every(o => o.isFinal))
+    }
+
+    function test_dragClampsAndThreshold() {
+        const slider = makeSlider({ "value": 0.5 })
+        const c = thumbCentre(slider)
+        mousePress(slider, c.x, c.y, Qt.LeftButton)
+        mouseMove(slider, c.x + 3, c.y, -1, Qt.LeftButton)
+        verify(!slider.dragging)
+        mouseMove(slider, c.x + 4, c.y, -1, Qt.LeftButton)
+        verify(slider.dragging)
+        mouseMove(slider, c.x + 400, c.y, -1, Qt.LeftButton)
+        compare(slider.value, 1)
+        mouseRelease(slider, c.x + 400, c.y, Qt.LeftButton)
+        verify(slider.offers.every(o => o.value <= 1))
+    }
+
+    function test_valueRangeHasAMinimum() {
+        const slider = makeSlider({ "to": 0.05, "value": 0.05 })
+        compare(slider.valueRange, 0.1)
+        // The top of the range sits half way along the track.
+        fuzzyCompare(thumbCentre(slider).x, slider._trackStart + slider._trackLength / 2, 1)
+    }
+
+    function test_stepRounding() {
+        const slider = makeSlider({ "from": -10, "to": 10, "stepSize": 2 })
+        slider.setValue(-3)
+        compare(slider.value, -4) // ties go up in magnitude
+        compare(slider.virtualValue, -3)
+        slider.setValue(2.9)
+        compare(slider.value, 2)
+    }
+
+    function test_doubleClickSetsDefault() {
+        const slider = makeSlider({ "defaultValue": 0.5 })
+        slider.setValue(0.2)
+        const c = thumbCentre(slider)
+        mouseDoubleClickSequence(slider, c.x, c.y)
+        compare(slider.value, 0.5)
+        const last = slider.offers[slider.offers.length - 1]
+        verify(last.isFinal)
+        slider.enableDoubleClicking = false
+        slider.setValue(0.2)
+        wait(400)
+        const c2 = thumbCentre(slider)
+        mouseDoubleClickSequence(slider, c2.x, c2.y)
+        compare(slider.value, 0.2)
+    }
+
+    function test_trackClicks_data() {
+        return [
+            { tag: "after the thumb", props: {}, side: 1, expected: 0.6 },
+            { tag: "before the thumb", props: {}, side: -1, expected: 0.4 },
+            { tag: "mirror, left", props: { "mirror": true }, side: -1, expected: 0.6 },
+            { tag: "stepped", props: { "stepSize": 0.25, "to": 1 }, side: 1, expected: 0.75 },
+            { tag: "shift", props: {}, side: 1, expected: 1, modifiers: Qt.ShiftModifier }
+        ]
+    }
+    function test_trackClicks(data) {
+        const slider = makeSlider(data.props)
+        slider.setValue(0.5)
+        const c = thumbCentre(slider)
+        mouseClick(slider, c.x + data.side * 60, c.y, Qt.LeftButton, data.modifiers || Qt.NoModifier)
+        fuzzyCompare(slider.value, data.expected, 1e-9)
+        compare(slider.endedCount, 0)
+        tryCompare(slider, "endedCount", 1, 2000)
+    }
+
+    function test_trackClickBurstEndsOnce() {
+        const slider = makeSlider({ "to": 10, "stepSize": 1 })
+        slider.setValue(5)
+        for (let i = 0; i < 3; ++i) {
+            const c = thumbCentre(slider)
+            mouseClick(slider, c.x + 40, c.y)
+            wait(100)
+        }
+        compare(slider.value, 8)
+        tryCompare(slider, "endedCount", 1, 2000)
+        wait(700)
+        compare(slider.endedCount, 1)
+    }
+
+    function test_wheel_data() {
+        return [
+            { tag: "step", step: 1, modifiers: Qt.NoModifier, expected: 6 },
+            { tag: "step, control: one step", step: 1, modifiers: Qt.ControlModifier, expected: 6 },
+            { tag: "step, shift", step: 1, modifiers: Qt.ShiftModifier, expected: 10 },
+            { tag: "no step: a tenth", step: 0, modifiers: Qt.NoModifier, expected: 6 },
+            { tag: "no step, control: a fiftieth", step: 0, modifiers: Qt.ControlModifier, expected: 5.2 },
+            { tag: "no step, shift: half the range", step: 0, modifiers: Qt.ShiftModifier, expected: 10 },
+            { tag: "down", step: 1, modifiers: Qt.NoModifier, expected: 4, delta: -120 },
+            { tag: "reverse", step: 1, modifiers: Qt.NoModifier, expected: 4, reverse: true }
+        ]
+    }
+    function test_wheel(data) {
+        const slider = makeSlider({ "to": 10, "stepSize": data.step, "enableWheeling": true,
+                                    "reverse": !!data.reverse })
+        slider.setValue(5)
+        mouseWheel(slider, 20, slider.height / 2, 0, data.delta || 120, Qt.NoButton, data.modifiers)
+        fuzzyCompare(slider.value, data.expected, 1e-9)
+        tryCompare(slider, "endedCount", 1, 2000)
+    }
+
+    function test_wheelDisabledByDefault() {
+        const slider = makeSlider({ "to": 10 })
+        slider.setValue(5)
+        mouseWheel(slider, 20, slider.height / 2, 0, 120)
+        compare(slider.value, 5)
+    }
+
+    function test_wheelLimitation() {
+        const slider = makeSlider({ "to": 100, "stepSize": 1, "enableWheeling": true,
+                                    "enableValueLimitation": true })
+        slider.setValue(50)
+        // The first notch has no previous step to compare with; the next ones, at once, turn
+        // faster than 150 degrees per second and are dropped.
+        mouseWheel(slider, 20, slider.height / 2, 0, 120)
+        mouseWheel(slider, 20, slider.height / 2, 0, 120)
+        mouseWheel(slider, 20, slider.height / 2, 0, 120)
+        compare(slider.value, 51)
+        wait(200)
+        mouseWheel(slider, 20, slider.height / 2, 0, 120)
+        compare(slider.value, 52)
+    }
+
+    function test_disableIgnoresEverything() {
+        const slider = makeSlider({ "to": 10, "stepSize": 1, "enableWheeling": true,
+                                    "securityType": VynCommonConstants.VynSecurityTypeDisable })
+        slider.setValue(5)
+        drag(slider, 60, 0)
+        mouseClick(slider, 5, slider.height / 2)
+        mouseWheel(slider, 20, slider.height / 2, 0, 120)
+        compare(slider.value, 5)
+        compare(slider.offers.length, 0)
+        compare(slider.beganCount, 0)
+    }
+
+    function test_mixedShowsAverage() {
+        const slider = makeSlider({})
+        slider.values = [0.2, 0.4]
+        verify(slider.mixed)
+        fuzzyCompare(slider.value, 0.3, 1e-9)
+        fuzzyCompare(slider.displayedValue, 0.3, 1e-9)
+        slider.values = [0.7]
+        verify(!slider.mixed)
+    }
+
+    Component {
+        id: modelComponent
+        VynUISliderComponent {}
+    }
+
+    function cleanup() {
+        testHost.removePresenter()
+        testHost.detachWindowController()
+    }
+
+    function test_shouldAlert_data() {
+        return [
+            { tag: "drag confirmed", response: QApplicationMessage.Response_Confirm, click: false, expected: 0.5 },
+            { tag: "drag refused", response: QApplicationMessage.Response_Cancel, click: false, expected: 0.25 },
+            { tag: "track click confirmed", response: QApplicationMessage.Response_Confirm, click: true, expected: 0.35 },
+            { tag: "track click refused", response: QApplicationMessage.Response_Cancel, click: true, expected: 0.25 }
+        ]
+    }
+    function test_shouldAlert(data) {
+        const model = createTemporaryObject(modelComponent, testCase)
+        const slider = makeSlider({ "uiSliderComponent": model,
+                                    "securityType": VynCommonConstants.VynSecurityTypeShouldAlert })
+        slider.setValue(0.25)
+        verify(testHost.attachWindowController(slider))
+        testHost.installAnsweringPresenter(data.response)
+        if (data.click) {
+            mouseClick(slider, thumbCentre(slider).x + 60, slider.height / 2)
+        } else {
+            drag(slider, 0.25 * slider._trackLength, 0)
+            // Drag values were offered as not final.
+            compare(slider.offers[0].isFinal, false)
+        }
+        compare(testHost.presentedCount, 1)
+        fuzzyCompare(slider.value, data.expected, 1e-9)
+        const finals = slider.offers.filter(o => o.isFinal)
+        compare(finals.length, data.response === QApplicationMessage.Response_Confirm ? 1 : 0)
+    }
+
+    function test_notLiveOffersOnceOnRelease() {
+        const slider = makeSlider({ "live": false })
+        drag(slider, 0.5 * slider._trackLength, 0)
+        compare(slider.offers.length, 1)
+        verify(slider.offers[0].isFinal)
+        fuzzyCompare(slider.value, 0.5, 1e-9)
+    }
+
+    function test_ticks() {
+        const slider = makeSlider({ "to": 4, "stepSize": 1, "drawsTicks": true })
+        const ticks = []
+        for (let i = 0; i < slider.children.length; ++i) {
+            const child = slider.children[i]
+            if (child.axisPosition !== undefined)
+                ticks.push(child)
+        }
+        compare(ticks.length, 5)
+        fuzzyCompare(ticks[0].axisPosition, slider._trackStart, 1e-9)
+        fuzzyCompare(ticks[4].axisPosition, slider._trackStart + slider._trackLength, 1e-9)
+    }
+}

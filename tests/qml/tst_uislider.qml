@@ -1,0 +1,247 @@
+import QtQuick
+import QtTest
+import VynUI 1.2
+
+// The parameter-bound wrappers driving component models whose host validators modify the
+// values they are given, as a device with its own resolution does.
+TestCase {
+    id: testCase
+    name: "UISlider"
+    width: 700
+    height: 300
+    visible: true
+    when: windowShown
+
+    Component {
+        id: sliderModelComponent
+        VynUISliderComponent {}
+    }
+    Component {
+        id: fieldModelComponent
+        VynUISlideFieldComponent {}
+    }
+    Component {
+        id: uiSliderComponent
+        VynUISlider {
+            x: 100
+            y: 40
+            width: 210
+        }
+    }
+    Component {
+        id: uiFieldComponent
+        VynUISlideField {
+            x: 300
+            y: 120
+            width: 200
+            allowsPanning: true
+            hasMinus: true
+            hasPlus: true
+        }
+    }
+
+    // A host: accepts when `accept`, rounds every value to `resolution`, records the calls.
+    function makeModel(p_component, p_min, p_max, p_value, p_resolution) {
+        const model = createTemporaryObject(p_component, testCase)
+        model.minValue = p_min
+        model.maxValue = p_max
+        model.value = p_value
+        model.prevValue = p_value
+        const host = { "calls": [], "accept": true, "canSlide": true }
+        model.setSlidingValidatorQml(function (p_model) { return host.canSlide })
+        model.setValueValidatorQml(function (p_model, p_value, p_isRelative, p_prev, p_isFinal) {
+            host.calls.push({ "value": p_value, "isFinal": p_isFinal })
+            return { "accepted": host.accept,
+                     "value": Math.round(p_value / p_resolution) * p_resolution }
+        })
+        return { "model": model, "host": host }
+    }
+
+    function thumbCentre(p_slider) {
+        const thumb = findChild(p_slider, "thumb")
+        return thumb.mapToItem(p_slider, thumb.width / 2, thumb.height / 2)
+    }
+
+    function cleanup() {
+        testHost.removePresenter()
+        testHost.detachWindowController()
+    }
+
+    function test_sliderFollowsTheModifiedValue() {
+        const bound = makeModel(sliderModelComponent, 0, 10, 2, 0.5)
+        const slider = createTemporaryObject(uiSliderComponent, testCase,
+                                             { "uiSliderComponent": bound.model })
+        waitForRendering(slider)
+        compare(slider.value, 2)
+        const c = thumbCentre(slider)
+        mousePress(slider, c.x, c.y)
+        verify(bound.model.sliding)
+        mouseMove(slider, c.x + 37, c.y, -1, Qt.LeftButton)
+        // The thumb shows what the host made of the value, at once.
+        compare(slider.value, bound.model.value)
+        compare(bound.model.value % 0.5, 0)
+        verify(bound.model.value > 2)
+        // A device echo while the hand is on the thumb does not move it.
+        const held = slider.value
+        bound.model.value = 9
+        compare(slider.value, held)
+        mouseRelease(slider, c.x + 37, c.y)
+        verify(!bound.model.sliding)
+        compare(slider.value, 9)
+        compare(bound.model.prevValue, 9)
+        verify(bound.host.calls.length > 0)
+        verify(bound.host.calls.every(call => call.isFinal))
+    }
+
+    function test_withoutSlidingValidatorNothingMoves() {
+        const bound = makeModel(sliderModelComponent, 0, 10, 2, 0.5)
+        bound.model.setSlidingValidatorQml(null)
+        const slider = createTemporaryObject(uiSliderComponent, testCase,
+                                             { "uiSliderComponent": bound.model })
+        waitForRendering(slider)
+        const c = thumbCentre(slider)
+        mousePress(slider, c.x, c.y)
+        mouseMove(slider, c.x + 60, c.y, -1, Qt.LeftButton)
+        mouseRelease(slider, c.x + 60, c.y)
+        compare(bound.host.calls.length, 0)
+        compare(slider.value, 2)
+        compare(bound.model.value, 2)
+    }
+
+    function test_enabledAndSecurityFromTheModel() {
+        const bound = makeModel(sliderModelComponent, 0, 10, 2, 0.5)
+        const slider = createTemporaryObject(uiSliderComponent, testCase,
+                                             { "uiSliderComponent": bound.model })
+        verify(slider.enabled)
+        bound.model.securityType = VynCommonConstants.VynSecurityTypeDisable
+        verify(!slider.enabled)
+        compare(slider.securityType, VynCommonConstants.VynSecurityTypeDisable)
+        bound.model.securityType = VynCommonConstants.VynSecurityTypeNone
+        verify(slider.enabled)
+    }
+
+    function test_longPressReachesTheModel() {
+        const bound = makeModel(sliderModelComponent, 0, 10, 2, 0.5)
+        const slider = createTemporaryObject(uiSliderComponent, testCase,
+                                             { "uiSliderComponent": bound.model })
+        waitForRendering(slider)
+        const spy = createTemporaryObject(spyComponent, testCase,
+                                          { "target": bound.model, "signalName": "longPressed" })
+        const c = thumbCentre(slider)
+        mousePress(slider, c.x, c.y)
+        spy.wait(2000)
+        mouseRelease(slider, c.x, c.y)
+        compare(slider.value, 2)
+    }
+
+    Component {
+        id: spyComponent
+        SignalSpy {}
+    }
+
+    function test_fieldPlusGoesThroughTheHost() {
+        const bound = makeModel(fieldModelComponent, 0, 100, 10, 2)
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model, "stepSize": 3 })
+        waitForRendering(field)
+        mouseClick(findChild(field, "plusButton"))
+        // 10 + 3 = 13, which the host rounds to 14.
+        compare(bound.model.value, 14)
+        compare(field.value, 14)
+        compare(bound.host.calls[0].value, 13)
+    }
+
+    function test_fieldTypedEntry() {
+        const bound = makeModel(fieldModelComponent, 0, 100, 10, 1)
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model })
+        waitForRendering(field)
+        mouseClick(field, field.width / 2, field.height / 2)
+        tryVerify(() => field.activeFocus)
+        keySequence(StandardKey.SelectAll)
+        keyClick("4")
+        keyClick("2")
+        keyClick(".")
+        keyClick("6")
+        keyClick(Qt.Key_Return)
+        compare(bound.model.value, 43)
+        compare(field.text, bound.model.stringValue)
+    }
+
+    function test_fieldPanRefusedByConfirmation_data() {
+        return [
+            { tag: "confirmed", response: QApplicationMessage.Response_Confirm, confirmed: true },
+            { tag: "refused", response: QApplicationMessage.Response_Cancel, confirmed: false }
+        ]
+    }
+    function test_fieldPanRefusedByConfirmation(data) {
+        const bound = makeModel(fieldModelComponent, 0, 1000, 10, 1)
+        bound.model.securityType = VynCommonConstants.VynSecurityTypeShouldAlert
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model })
+        waitForRendering(field)
+        verify(testHost.attachWindowController(field))
+        testHost.installAnsweringPresenter(data.response)
+        const handle = findChild(field, "panningHandle")
+        const c = handle.mapToItem(field, handle.width / 2, handle.height / 2)
+        mousePress(field, c.x, c.y)
+        mouseMove(field, c.x + 150, c.y, -1, Qt.LeftButton)
+        compare(bound.host.calls[0].isFinal, false)
+        mouseRelease(field, c.x + 150, c.y)
+        compare(testHost.presentedCount, 1)
+        compare(bound.model.value, data.confirmed ? 385 : 10)
+        compare(field.value, bound.model.value)
+        compare(bound.host.calls.filter(call => call.isFinal).length, data.confirmed ? 1 : 0)
+    }
+
+    function test_mixedSelection() {
+        const bound = makeModel(fieldModelComponent, 0, 100, 10, 1)
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model })
+        const slider = createTemporaryObject(uiSliderComponent, testCase,
+                                             { "uiSliderComponent": bound.model, "to": 100 })
+        waitForRendering(field)
+        testHost.watchEditing(bound.model)
+        const done = createTemporaryObject(spyComponent, testCase,
+                                           { "target": bound.model, "signalName": "doneEditingWhileMultiple" })
+        testHost.pushValue(bound.model, 20, [20, 40])
+        verify(bound.model.mixed)
+        verify(field.mixed)
+        compare(field.text, VynUIQmlConstants.localizedString("MULTIPLE_SHORT"))
+        verify(slider.mixed)
+        compare(slider.displayedValue, 30) // the average of the selection
+        mouseClick(findChild(field, "plusButton"))
+        compare(testHost.editedCount(), 1)
+        compare(testHost.lastAutoClose(), false)
+        compare(bound.model.value, 21)
+        tryCompare(done, "count", 1, 2000)
+        // The selection's echo ends the mixed state.
+        testHost.pushValue(bound.model, 21, [21, 21])
+        verify(!field.mixed)
+        compare(field.text, bound.model.stringValue)
+    }
+
+    function test_sliderAndFieldShareTheModel() {
+        const bound = makeModel(fieldModelComponent, 0, 100, 10, 5)
+        const pair = createTemporaryObject(pairComponent, testCase,
+                                           { "uiSlideFieldComponent": bound.model })
+        waitForRendering(pair)
+        pair.field.hasPlus = true
+        mouseClick(findChild(pair.field, "plusButton"))
+        compare(bound.model.value, 10) // 11 rounds back to 10 at the host
+        pair.field.stepSize = 4
+        mouseClick(findChild(pair.field, "plusButton"))
+        compare(bound.model.value, 15)
+        compare(pair.slider.value, 15)
+    }
+
+    Component {
+        id: pairComponent
+        VynUISliderAndField {
+            x: 20
+            y: 200
+            width: 500
+            height: 24
+        }
+    }
+}
