@@ -84,7 +84,7 @@ int main(int argc, char** argv)
     const QCommandLineOption delayOption(
         QStringLiteral("delay"),
         QStringLiteral("Milliseconds to let the simulated devices settle before a screenshot."),
-        QStringLiteral("ms"), QStringLiteral("600"));
+        QStringLiteral("ms"), QStringLiteral("2000"));
     parser.addOptions({screenshotOption, styleOption, pageOption, sizeOption, delayOption});
     parser.process(app);
 
