@@ -64,8 +64,9 @@ void VynLabelOptimizer::setPositionMax(double positionMax)
 
 void VynLabelOptimizer::addOptimizedLabel(VynOptimizedLabel* p_optimizedLabel)
 {
-    if (!p_optimizedLabel || m_labels.contains(p_optimizedLabel))
+    if (!p_optimizedLabel || m_addedLabels.contains(p_optimizedLabel))
         return;
+    m_addedLabels.append(p_optimizedLabel);
     m_labels.append(p_optimizedLabel);
     connect(p_optimizedLabel, &VynOptimizedLabel::positionChanged, this,
             &VynLabelOptimizer::optimizeIfNeeded);
@@ -78,7 +79,7 @@ void VynLabelOptimizer::addOptimizedLabel(VynOptimizedLabel* p_optimizedLabel)
 
 void VynLabelOptimizer::removeOptimizedLabel(VynOptimizedLabel* p_optimizedLabel)
 {
-    if (!p_optimizedLabel || !m_labels.contains(p_optimizedLabel))
+    if (!p_optimizedLabel || !m_addedLabels.contains(p_optimizedLabel))
         return;
     disconnect(p_optimizedLabel, &VynOptimizedLabel::positionChanged, this,
                &VynLabelOptimizer::optimizeIfNeeded);
@@ -86,6 +87,7 @@ void VynLabelOptimizer::removeOptimizedLabel(VynOptimizedLabel* p_optimizedLabel
                &VynLabelOptimizer::optimizeIfNeeded);
     disconnect(p_optimizedLabel, &QObject::destroyed, this,
                &VynLabelOptimizer::onOptimizedLabelDestroyed);
+    m_addedLabels.removeAll(p_optimizedLabel);
     m_labels.removeAll(p_optimizedLabel);
     emit optimizedLabelsChanged();
 }
@@ -101,6 +103,9 @@ void VynLabelOptimizer::optimizeIfNeeded()
         m_placementPending = false;
         if (m_expectedLabelCount != -1 && m_expectedLabelCount != m_labels.size())
             break;
+        // Sorted from the order of addition, so that labels at equal positions always
+        // come in that order, whatever order earlier placements left them in.
+        m_labels = m_addedLabels;
         std::stable_sort(m_labels.begin(), m_labels.end(), positionLess);
         // A copy: slots on the labels' signals may add or remove labels meanwhile.
         const QList<VynOptimizedLabel*> labels = m_labels;
@@ -117,6 +122,9 @@ void VynLabelOptimizer::onOptimizedLabelDestroyed(QObject* p_sender)
     // The label's own part is already destroyed: compare addresses only, never
     // dereference or cast through the object (QObject is its only base, at offset 0).
     const void* sender = p_sender;
-    m_labels.removeIf(
-        [sender](VynOptimizedLabel* label) { return static_cast<const void*>(label) == sender; });
+    const auto isSender = [sender](VynOptimizedLabel* label) {
+        return static_cast<const void*>(label) == sender;
+    };
+    m_addedLabels.removeIf(isSender);
+    m_labels.removeIf(isSender);
 }

@@ -70,6 +70,9 @@ public slots:
     void onOptimizedLabelDestroyed(QObject* p_sender);
 
 private:
+    // The labels in the order they were added, and the same labels sorted by position as
+    // of the last placement (sorted afresh from the first list each time).
+    QList<VynOptimizedLabel*> m_addedLabels;
     QList<VynOptimizedLabel*> m_labels;
     int m_expectedLabelCount = -1;
     double m_positionMin = 0.0;

@@ -180,6 +180,7 @@ private slots:
     void visibleWalks();
     void description();
     void optimizerSortsAndPlaces();
+    void equalPositionsKeepAddOrder();
     void expectedCountGate();
     void addAndRemove();
     void destroyedLabelLeavesSilently();
@@ -468,6 +469,25 @@ void TestLabelOptimizer::optimizerSortsAndPlaces()
     const QList<double> before = labels.deltas();
     labels.list[0]->setText(QStringLiteral("-3 dB"));
     QCOMPARE(labels.deltas(), before);
+}
+
+void TestLabelOptimizer::equalPositionsKeepAddOrder()
+{
+    // Of two labels at one position, the one added first is placed first (it moves left
+    // and wins the hiding), whatever order earlier placements left them in.
+    VynLabelOptimizer optimizer;
+    optimizer.setPositionMax(100);
+    Labels labels({60, 50}, {20, 20});
+    optimizer.addOptimizedLabel(labels.list[0]);
+    optimizer.addOptimizedLabel(labels.list[1]);
+    QCOMPARE(optimizer.optimizedLabels(), (LabelList{labels.list[1], labels.list[0]}));
+
+    labels.list[0]->setPosition(50);
+    QCOMPARE(optimizer.optimizedLabels(), (LabelList{labels.list[0], labels.list[1]}));
+    QCOMPARE(labels.deltas(), (QList<double>{-10, 10}));
+
+    labels.list[1]->setLength(60);
+    QCOMPARE(labels.visibility(), (QList<bool>{true, false}));
 }
 
 void TestLabelOptimizer::expectedCountGate()
