@@ -124,6 +124,7 @@ TestCase {
         const warning = ComponentUtils.VynWARNING
         return [
             { tag: "no object gives the default", values: [], size: 0, expected: 7, evaluated: 0 },
+            { tag: "a missing list holds no object", values: null, size: 2, expected: 7, evaluated: 0 },
             { tag: "all yes", values: [yes, yes, yes], size: 3, expected: yes, evaluated: 3 },
             { tag: "all no", values: [no, no], size: 2, expected: no, evaluated: 2 },
             { tag: "disagreement", values: [no, yes, no], size: 3, expected: warning, evaluated: 2 },

@@ -159,15 +159,18 @@ function delayFunction2(p_delayTime, p_callBack) {
 // Tri-state aggregation over the first p_objectSize objects of p_enumerationObject (an array,
 // or a model with get()): p_evaluationFunc(object, skip) answers VynNO, VynYES or
 // VynWARNING. The first answer is taken; a VynWARNING, or a later answer that differs from
-// the first, returns VynWARNING at once; no object gives p_defaultReturn.
+// the first, returns VynWARNING at once; no object (also a missing p_enumerationObject) gives
+// p_defaultReturn.
 // The skip flag reaches the evaluation function by value, so setting it there has no effect
 // and no object is ever skipped. Callers are written against that, so it is kept.
 function vynBoolFromVynBoolEvaluation(p_enumerationObject, p_objectSize, p_evaluationFunc,
                                       p_defaultReturn) {
+    if (p_enumerationObject === undefined || p_enumerationObject === null)
+        return p_defaultReturn
     let result = p_defaultReturn
     let first = true
     for (let i = 0; i < p_objectSize; ++i) {
-        const object = (p_enumerationObject && typeof p_enumerationObject.get === "function")
+        const object = typeof p_enumerationObject.get === "function"
                 ? p_enumerationObject.get(i) : p_enumerationObject[i]
         const skip = false
         const value = p_evaluationFunc(object, skip)
