@@ -8,6 +8,7 @@
 // Selection rules
 // ---------------
 // selectAction() decides what a click with modifiers does to a list of selected indexes.
+// A shift click whose pivot is not a row of the list selects from the clicked index.
 // The optional callbacks are:
 //   p_canSelectIndexBlock(index) -> bool     may this index be selected (absent: always)
 //   p_willSelectBlock()                      runs before a selection that will happen
@@ -148,12 +149,13 @@ function canShiftSelect(p_index, p_selectedIndexes, p_count) {
 // outside the range) and reported deselected; then every index of the range that is not
 // selected and may be selected is appended, in ascending order, and reported selected. Runs
 // are found on a numerically sorted copy, so the text ordering of the list does not split
-// them. A pivot that is not a number is replaced by the clicked index.
+// them. A pivot that is not a number or is negative (no pivot yet) is replaced by the
+// clicked index, so that no index below 0 is ever selected.
 function shiftSelect(p_index, p_selectedIndexes, p_pivotIndex, p_canSelectIndexBlock,
                      p_updateSelectionBlock) {
     const selected = p_selectedIndexes ? p_selectedIndexes : []
-    const pivot = (typeof p_pivotIndex === "number" && !isNaN(p_pivotIndex)) ? p_pivotIndex
-                                                                           : p_index
+    const pivot = (typeof p_pivotIndex === "number" && p_pivotIndex >= 0) ? p_pivotIndex
+                                                                          : p_index
     const low = Math.min(pivot, p_index)
     const high = Math.max(pivot, p_index)
 
@@ -270,9 +272,11 @@ function selectAction(p_cmd, p_shift, p_index, p_selectedIndexes, p_count, p_piv
 
     if (p_allowsMultipleSelection) {
         if (p_shift && canShiftSelect(p_index, selected, p_count)) {
+            // A pivot that is not a row of the list (none yet, or left over from a longer
+            // list) gives way to the clicked index; the did-select callback still gets it.
+            const pivot = _inRange(p_pivotIndex, p_count) ? p_pivotIndex : p_index
             willSelect()
-            shiftSelect(p_index, selected, p_pivotIndex, p_canSelectIndexBlock,
-                        p_updateSelectionBlock)
+            shiftSelect(p_index, selected, pivot, p_canSelectIndexBlock, p_updateSelectionBlock)
             didSelect(p_pivotIndex)
             return true
         }
