@@ -235,6 +235,31 @@ TestCase {
         compare(pair.slider.value, 15)
     }
 
+    function test_labelAndFieldShowsTheName() {
+        const bound = makeModel(fieldModelComponent, 0, 100, 10, 1)
+        testHost.nameComponent(bound.model, "Delay")
+        const row = createTemporaryObject(labelAndFieldComponent, testCase,
+                                          { "uiSlideFieldComponent": bound.model })
+        waitForRendering(row)
+        compare(row.title, "")
+        bound.model.wantsName = true
+        compare(row.title, "Delay")
+        testHost.nameComponent(bound.model, "Delay L")
+        compare(row.title, "Delay L")
+        // Its plus button edits through the host like any bound field.
+        mouseClick(findChild(row, "plusButton"))
+        compare(bound.model.value, 11)
+    }
+
+    Component {
+        id: labelAndFieldComponent
+        VynUILabelAndField {
+            x: 20
+            y: 240
+            width: 400
+        }
+    }
+
     Component {
         id: pairComponent
         VynUISliderAndField {
