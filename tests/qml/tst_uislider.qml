@@ -168,6 +168,34 @@ TestCase {
         compare(field.text, bound.model.stringValue)
     }
 
+    function test_fieldHandleClickIsNoGesture() {
+        const bound = makeModel(fieldModelComponent, 0, 1000, 10, 1)
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model })
+        waitForRendering(field)
+        const began = createTemporaryObject(spyComponent, testCase,
+                                            { "target": bound.model, "signalName": "slidingBegan" })
+        const ended = createTemporaryObject(spyComponent, testCase,
+                                            { "target": bound.model, "signalName": "slidingEnded" })
+        const handle = findChild(field, "panningHandle")
+        const c = handle.mapToItem(field, handle.width / 2, handle.height / 2)
+        // A press and release that never pans: nothing began, so nothing ends.
+        mousePress(field, c.x, c.y)
+        mouseMove(field, c.x + 2, c.y, -1, Qt.LeftButton)
+        mouseRelease(field, c.x + 2, c.y)
+        compare(began.count, 0)
+        compare(ended.count, 0)
+        // A pan: one of each, the end after the beginning.
+        mousePress(field, c.x, c.y)
+        mouseMove(field, c.x + 40, c.y, -1, Qt.LeftButton)
+        compare(began.count, 1)
+        compare(ended.count, 0)
+        mouseRelease(field, c.x + 40, c.y)
+        compare(ended.count, 1)
+        compare(bound.model.value, 30)
+        compare(bound.model.prevValue, 30)
+    }
+
     function test_fieldPanRefusedByConfirmation_data() {
         return [
             { tag: "confirmed", response: QApplicationMessage.Response_Confirm, confirmed: true },
