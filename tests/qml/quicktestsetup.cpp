@@ -71,6 +71,12 @@ void TestHost::pushValue(QObject* p_component, double p_value, const QVariantLis
     component->setValue(p_value, mixed, values);
 }
 
+void TestHost::nameComponent(QObject* p_component, const QString& p_name)
+{
+    if (auto* component = qobject_cast<VynUIComponent*>(p_component))
+        component->setName(p_name);
+}
+
 void TestHost::watchEditing(QObject* p_component)
 {
     disconnect(m_editedConnection);

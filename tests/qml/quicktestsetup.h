@@ -47,6 +47,8 @@ public:
     Q_INVOKABLE int editedCount() const { return m_editedCount; }
     Q_INVOKABLE bool lastAutoClose() const { return m_lastAutoClose; }
     Q_INVOKABLE void pushValue(QObject* p_component, double p_value, const QVariantList& p_values);
+    // The display name a host gives a component (native-only on the component).
+    Q_INVOKABLE void nameComponent(QObject* p_component, const QString& p_name);
 
 signals:
     void presented();

@@ -84,12 +84,21 @@ TestCase {
     }
     function test_threshold(data) {
         const field = makeField({ "value": 10 })
+        const clicked = createTemporaryObject(spyComponent, testCase,
+                                              { "target": field, "signalName": "panningClicked" })
         pan(field, [data.move], false)
         compare(field.panning, data.panning)
         const c = handleCentre(field)
         mouseRelease(field, c.x + data.move, c.y, Qt.LeftButton)
         verify(!field.panning)
         compare(field.endedCount, data.panning ? 1 : 1)
+        // Only a press that did not pan is a click on the handle.
+        compare(clicked.count, data.panning ? 0 : 1)
+    }
+
+    Component {
+        id: spyComponent
+        SignalSpy {}
     }
 
     function test_acceleration_data() {

@@ -168,6 +168,34 @@ TestCase {
         compare(field.text, bound.model.stringValue)
     }
 
+    function test_fieldHandleClickIsNoGesture() {
+        const bound = makeModel(fieldModelComponent, 0, 1000, 10, 1)
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model })
+        waitForRendering(field)
+        const began = createTemporaryObject(spyComponent, testCase,
+                                            { "target": bound.model, "signalName": "slidingBegan" })
+        const ended = createTemporaryObject(spyComponent, testCase,
+                                            { "target": bound.model, "signalName": "slidingEnded" })
+        const handle = findChild(field, "panningHandle")
+        const c = handle.mapToItem(field, handle.width / 2, handle.height / 2)
+        // A press and release that never pans: nothing began, so nothing ends.
+        mousePress(field, c.x, c.y)
+        mouseMove(field, c.x + 2, c.y, -1, Qt.LeftButton)
+        mouseRelease(field, c.x + 2, c.y)
+        compare(began.count, 0)
+        compare(ended.count, 0)
+        // A pan: one of each, the end after the beginning.
+        mousePress(field, c.x, c.y)
+        mouseMove(field, c.x + 40, c.y, -1, Qt.LeftButton)
+        compare(began.count, 1)
+        compare(ended.count, 0)
+        mouseRelease(field, c.x + 40, c.y)
+        compare(ended.count, 1)
+        compare(bound.model.value, 30)
+        compare(bound.model.prevValue, 30)
+    }
+
     function test_fieldPanRefusedByConfirmation_data() {
         return [
             { tag: "confirmed", response: QApplicationMessage.Response_Confirm, confirmed: true },
@@ -233,6 +261,31 @@ TestCase {
         mouseClick(findChild(pair.field, "plusButton"))
         compare(bound.model.value, 15)
         compare(pair.slider.value, 15)
+    }
+
+    function test_labelAndFieldShowsTheName() {
+        const bound = makeModel(fieldModelComponent, 0, 100, 10, 1)
+        testHost.nameComponent(bound.model, "Delay")
+        const row = createTemporaryObject(labelAndFieldComponent, testCase,
+                                          { "uiSlideFieldComponent": bound.model })
+        waitForRendering(row)
+        compare(row.title, "")
+        bound.model.wantsName = true
+        compare(row.title, "Delay")
+        testHost.nameComponent(bound.model, "Delay L")
+        compare(row.title, "Delay L")
+        // Its plus button edits through the host like any bound field.
+        mouseClick(findChild(row, "plusButton"))
+        compare(bound.model.value, 11)
+    }
+
+    Component {
+        id: labelAndFieldComponent
+        VynUILabelAndField {
+            x: 20
+            y: 240
+            width: 400
+        }
     }
 
     Component {

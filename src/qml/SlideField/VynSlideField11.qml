@@ -457,8 +457,11 @@ VynTextField {
             cursorShape: Qt.SizeHorCursor
             acceptedButtons: Qt.LeftButton
             property bool gestureOpen: false
+            // Whether this press panned: the pan has ended by the time `clicked` arrives.
+            property bool panned: false
             onPressed: function (mouse) {
                 const p = mapToItem(root, mouse.x, mouse.y)
+                panned = false
                 gestureOpen = root._panPress(p.x, p.y)
             }
             onPositionChanged: function (mouse) {
@@ -466,6 +469,7 @@ VynTextField {
                     return
                 const p = mapToItem(root, mouse.x, mouse.y)
                 root._panMove(p.x, p.y)
+                panned = panned || root.panning
             }
             onReleased: function (mouse) {
                 if (!gestureOpen)
@@ -479,8 +483,9 @@ VynTextField {
                 gestureOpen = false
                 root._release(true)
             }
+            // A press released on the handle without panning.
             onClicked: function (mouse) {
-                if (!root.panning)
+                if (!panned)
                     root.panningClicked()
             }
             // Reported even when the press itself was ignored (a disabled field); only an open

@@ -7,7 +7,7 @@ import VynUI 1.2
 VynUISlideField {
     id: root
 
-    title: uiComponent && uiComponent.wantsName ? component.name : ""
+    title: uiComponent && uiComponent.wantsName ? uiComponent.name : ""
     allowsPanning: true
     hasMinus: true
     hasPlus: true

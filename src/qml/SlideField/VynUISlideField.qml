@@ -18,6 +18,9 @@ VynSlideField11 {
     readonly property VynUISlideFieldComponent uiComponent: uiSlideFieldComponent
 
     property bool _editedWhileMultiple: false
+    // Whether the component was told that sliding began and not yet that it ended: a press on
+    // the handle that never pans tells it neither, so the host sees matched pairs.
+    property bool _slidingBegun: false
 
     uiSlideFieldComponent: ownComponent
     from: uiComponent ? uiComponent.minValue : 0
@@ -55,6 +58,7 @@ VynSlideField11 {
             c.editedWhileMultiple(false)
         }
         c.slidingBegan()
+        root._slidingBegun = true
         c.sliding = root.panning
     }
     slideFieldExpectsValue: function (p_newValue, p_forceAbsolute, p_prevValue, p_isFinal) {
@@ -65,6 +69,9 @@ VynSlideField11 {
     }
     slideFieldEndedSliding: function () {
         const c = root.uiComponent
+        if (!root._slidingBegun)
+            return
+        root._slidingBegun = false
         if (!root.gestureAccepted && c.value !== root.startValue) {
             if (root.securityType === VynCommonConstants.VynSecurityTypeNone)
                 c.expectsValue(root.startValue, false, c.prevValue, true)
