@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import VynUI 1.2
 import Gallery
 
 ApplicationWindow {
@@ -25,6 +26,7 @@ ApplicationWindow {
     height: 800
     visible: true
     title: qsTr("VynUI Gallery")
+    font.family: VynFonts.vynFamilyRegular
     color: GalleryTheme.windowColor
 
     onDarkStyleChanged: GalleryTheme.dark = darkStyle
