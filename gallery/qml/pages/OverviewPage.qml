@@ -25,7 +25,7 @@ Flickable {
         spacing: 16
 
         Label {
-            text: qsTr("VynUI %1").arg(GalleryIntrospection.moduleVersion())
+            text: qsTr("VynUI %1").arg(GalleryModuleInfo.moduleVersion())
             color: GalleryTheme.textColor
             font.pixelSize: 26
             font.bold: true
@@ -79,7 +79,7 @@ Flickable {
             spacing: 12
 
             Repeater {
-                model: GalleryIntrospection.viewEnums()
+                model: GalleryModuleInfo.viewEnums()
 
                 Rectangle {
                     id: card

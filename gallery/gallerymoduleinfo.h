@@ -5,14 +5,14 @@
 #include <QVariantList>
 
 // What the gallery shows about the module itself: the view enums with their values.
-class GalleryIntrospection : public QObject
+class GalleryModuleInfo : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
 
 public:
-    explicit GalleryIntrospection(QObject* parent = nullptr);
+    explicit GalleryModuleInfo(QObject* parent = nullptr);
 
     //! One entry per enum of VynViewUtils: { name, keys: [{ key, value }] }.
     Q_INVOKABLE QVariantList viewEnums() const;

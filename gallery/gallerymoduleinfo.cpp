@@ -1,13 +1,13 @@
-#include "galleryintrospection.h"
+#include "gallerymoduleinfo.h"
 
 #include <vynviewutils.h>
 
 #include <QMetaEnum>
 #include <QVariantMap>
 
-GalleryIntrospection::GalleryIntrospection(QObject* parent) : QObject(parent) {}
+GalleryModuleInfo::GalleryModuleInfo(QObject* parent) : QObject(parent) {}
 
-QVariantList GalleryIntrospection::viewEnums() const
+QVariantList GalleryModuleInfo::viewEnums() const
 {
     QVariantList enums;
     const QMetaObject& meta = VynViewUtils::staticMetaObject;
@@ -23,7 +23,7 @@ QVariantList GalleryIntrospection::viewEnums() const
     return enums;
 }
 
-QString GalleryIntrospection::moduleVersion() const
+QString GalleryModuleInfo::moduleVersion() const
 {
     return QStringLiteral(VYNUI_VERSION_TEXT);
 }
