@@ -105,6 +105,30 @@ Flickable {
                 }
             }
 
+            // The colour factory: the tints a user gives to zones and devices, a mixed
+            // selection and no colour.
+            Row {
+                spacing: 6
+                bottomPadding: 6
+                Repeater {
+                    model: VynUIQmlConstants.colorFactoryCount()
+                    VynColorIcon {
+                        required property int index
+                        vynStyle: panel.vynStyle
+                        Component.onCompleted: setIndex(index)
+                    }
+                }
+                VynColorIcon {
+                    vynStyle: panel.vynStyle
+                    allowsMixed: true
+                    mixed: true
+                    Component.onCompleted: setIndex(7)
+                }
+                VynColorIcon {
+                    vynStyle: panel.vynStyle
+                }
+            }
+
             GridLayout {
                 Layout.fillWidth: true
                 columns: 2

@@ -1,16 +1,18 @@
 import QtQuick
+import VynUI 1.2
 
 // A rounded colour swatch: the tint a user gave to a zone, group or device.
 //
-// The swatch is filled with `color` under a faint top-to-bottom shade and framed by a border
-// derived from the tint (darker in the light style, lighter in the dark style), with a soft
-// one-pixel drop shadow. A swatch without a colour (transparent, or setIndex(-1)) shows an
+// The swatch is filled with `color` under a faint top-to-bottom shade and framed by the
+// catalogue's colour-icon border for the tint (darker in the light style, lighter in the dark
+// style), with the catalogue's colour-icon shadow along its bottom edge. A swatch without a colour (transparent, or setIndex(-1)) shows an
 // empty well crossed by a thin diagonal line. When `allowsMixed` and `mixed` are both set
 // (a selection whose members carry different colours) the well shows diagonal stripes of
 // the tint, or of a neutral grey when there is no tint.
 //
 // setIndex(i) picks entry i (modulo the palette size) of `colors`, the palette of tints the
-// user chooses from; a negative index clears the colour. Metrics scale with vynPixelRatio.
+// user chooses from (by default the catalogue's colour factory); a negative index clears the
+// colour. Metrics and colours come from VynUIQmlConstants and scale with vynPixelRatio.
 Item {
     id: root
 
@@ -20,13 +22,17 @@ Item {
     property int colorIndex: -1
     property bool allowsMixed: false
     property bool mixed: false
-    property int vynStyle: 1 // VynColorUtils.VynStyleDark
+    property int vynStyle: VynColorUtils.VynStyleDark
     property real vynPixelRatio: 1.0
-    property real size: 20 * vynPixelRatio
+    property real size: VynUIQmlConstants.colorIconHeight(VynViewUtils.VynControlSizeRegular, vynPixelRatio)
 
     // The user-selectable tints, in palette order.
-    property var colors: ["#e5484d", "#f76b15", "#ffc53d", "#99d52a", "#30a46c", "#12a594",
-        "#05a2c2", "#0090ff", "#3e63dd", "#8e4ec6", "#d6409f", "#ad7f58"]
+    property var colors: {
+        const palette = []
+        for (let i = 0; i < VynUIQmlConstants.colorFactoryCount(); ++i)
+            palette.push(VynUIQmlConstants.colorFactory(i))
+        return palette
+    }
 
     readonly property bool showsMixed: allowsMixed && mixed
     readonly property bool hasColor: color.a > 0
@@ -45,36 +51,33 @@ Item {
     onColorChanged: canvas.requestPaint()
     onShowsMixedChanged: canvas.requestPaint()
     onVynStyleChanged: canvas.requestPaint()
+    onColorsChanged: canvas.requestPaint()
     onVynPixelRatioChanged: canvas.requestPaint()
 
     Canvas {
         id: canvas
 
-        readonly property bool dark: root.vynStyle === 1
+        readonly property int style: root.vynStyle
         readonly property real ratio: Math.max(root.vynPixelRatio, 0.1)
-        readonly property real borderWidth: 1 * ratio
-        readonly property real shadowOffset: 1 * ratio
-        readonly property real stripeWidth: 2 * ratio
-        readonly property real stripePeriod: 4 * stripeWidth + 1 * ratio
-        readonly property color neutral: dark ? Qt.rgba(0.55, 0.55, 0.55, 1)
-                                              : Qt.rgba(0.6, 0.6, 0.6, 1)
-        readonly property color wellColor: dark ? Qt.rgba(0.16, 0.16, 0.16, 1)
-                                                : Qt.rgba(0.98, 0.98, 0.98, 1)
+        readonly property real borderWidth: VynUIQmlConstants.colorIconBorder(ratio)
+        readonly property real shadowOffset: VynUIQmlConstants.colorIconBorder(ratio)
+        readonly property real stripeWidth: VynUIQmlConstants.colorIconMixedLineWidth(ratio)
+        readonly property real stripePeriod: 4 * stripeWidth + VynUIQmlConstants.colorIconMixedLineOffset(ratio)
+        readonly property color neutral: VynUIQmlConstants.labelColorForStyle(style, 2)
+        readonly property color wellColor: VynUIQmlConstants.textViewBackgroundColorForStyle(style)
+        readonly property color shadowColor: VynUIQmlConstants.colorIconShadowColorForStyle(style)
+        readonly property color clearedColor: VynUIQmlConstants.controlBorderRedColorForStyle(style)
 
         anchors.fill: parent
         onWidthChanged: requestPaint()
         onHeightChanged: requestPaint()
 
-        function clamp01(p_value) {
-            return Math.min(1, Math.max(0, p_value))
+        function borderColorFor(p_tint) {
+            return VynUIQmlConstants.colorIconBorderColorForStyle(p_tint, style)
         }
 
-        // The border: the tint's brightness scaled and offset (light style x0.8 - 0.2, dark
-        // style x1.1 + 0.1), hue and saturation kept.
-        function borderColorFor(p_tint) {
-            const hue = Math.max(p_tint.hsvHue, 0)
-            const value = dark ? p_tint.hsvValue * 1.1 + 0.1 : p_tint.hsvValue * 0.8 - 0.2
-            return Qt.hsva(hue, p_tint.hsvSaturation, clamp01(value), 1)
+        function shadowWithAlpha(p_alpha) {
+            return Qt.rgba(shadowColor.r, shadowColor.g, shadowColor.b, p_alpha)
         }
 
         function roundedRect(p_ctx, p_x, p_y, p_w, p_h, p_r) {
@@ -99,7 +102,7 @@ Item {
             const hasTint = root.hasColor
 
             // Drop shadow, visible only along the bottom edge.
-            ctx.fillStyle = Qt.rgba(0, 0, 0, dark ? 0.5 : 0.25)
+            ctx.fillStyle = shadowColor
             roundedRect(ctx, 0, shadowOffset, w, h, radius)
             ctx.fill()
 
@@ -124,7 +127,7 @@ Item {
             } else {
                 ctx.fillStyle = wellColor
                 ctx.fillRect(0, 0, w, h)
-                ctx.strokeStyle = Qt.rgba(0.85, 0.2, 0.2, 1)
+                ctx.strokeStyle = clearedColor
                 ctx.lineWidth = borderWidth
                 ctx.beginPath()
                 ctx.moveTo(0, h)
@@ -134,8 +137,8 @@ Item {
 
             // Faint shade from top to bottom gives the swatch some depth.
             const shade = ctx.createLinearGradient(0, 0, 0, h)
-            shade.addColorStop(0, Qt.rgba(0, 0, 0, 0.05))
-            shade.addColorStop(1, Qt.rgba(0, 0, 0, 0.2))
+            shade.addColorStop(0, shadowWithAlpha(0.05))
+            shade.addColorStop(1, shadowWithAlpha(0.2))
             ctx.fillStyle = shade
             ctx.fillRect(0, 0, w, h)
             ctx.restore()
