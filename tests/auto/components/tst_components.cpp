@@ -229,36 +229,27 @@ void tst_Components::settersIgnoreEqualValues()
 {
     QCoreWindowController controller;
     VynUIComponent c;
-    c.setComponentType(VynViewUtils::VynUIComponentTypeLed);
-    c.setStyle(VynColorUtils::VynStyleLight);
-    c.setParamPath(path("Amp[1]/Channel[2]/Gain"));
-    c.setSecurityKey("gain");
-    c.setSecurityType(VynCommonConstants::VynSecurityTypeShouldAlert);
-    c.setSecurityAlertTitleAndMessage("Title", "Message");
-    c.setWindowController(&controller);
-    c.setTooltipText("Tip");
-    c.setEnabled(false);
-    c.setPreviewMode(true);
-    c.setExpecting(true);
-    c.setWantsName(true);
-    c.setNameSize(VynViewUtils::VynControlSizeSmall);
-    c.setName("Gain");
+    const auto setEverything = [&c, &controller]() {
+        c.setComponentType(VynViewUtils::VynUIComponentTypeLed);
+        c.setStyle(VynColorUtils::VynStyleLight);
+        c.setParamPath(path("Amp[1]/Channel[2]/Gain"));
+        c.setSecurityKey(QString("gain"));
+        c.setSecurityType(VynCommonConstants::VynSecurityTypeShouldAlert);
+        c.setSecurityAlertTitleAndMessage("Title", "Message");
+        c.setWindowController(&controller);
+        c.setTooltipText("Tip");
+        c.setEnabled(false);
+        c.setPreviewMode(true);
+        c.setExpecting(true);
+        c.setWantsName(true);
+        c.setNameSize(VynViewUtils::VynControlSizeSmall);
+        c.setName("Gain");
+    };
+    setEverything();
 
+    // The same values again: nothing is emitted.
     Recorder recorder(&c);
-    c.setComponentType(VynViewUtils::VynUIComponentTypeLed);
-    c.setStyle(VynColorUtils::VynStyleLight);
-    c.setParamPath(path("Amp[1]/Channel[2]/Gain"));
-    c.setSecurityKey(QString("gain"));
-    c.setSecurityType(VynCommonConstants::VynSecurityTypeShouldAlert);
-    c.setSecurityAlertTitleAndMessage("Title", "Message");
-    c.setWindowController(&controller);
-    c.setTooltipText("Tip");
-    c.setEnabled(false);
-    c.setPreviewMode(true);
-    c.setExpecting(true);
-    c.setWantsName(true);
-    c.setNameSize(VynViewUtils::VynControlSizeSmall);
-    c.setName("Gain");
+    setEverything();
     QCOMPARE(recorder.take(), QStringList());
 }
 
