@@ -7,6 +7,8 @@
 
 #include <QQuickWindow>
 
+#include <cmath>
+
 VynUIComponent::VynUIComponent(QObject* parent, bool p_enableLogs) : QObject(parent)
 {
     if (p_enableLogs)
@@ -35,6 +37,14 @@ void VynUIComponent::logError(const QString& message, const char* function, cons
     } else {
         qWarning("%s: %s (%s)", qPrintable(module), qPrintable(message), function);
     }
+}
+
+bool VynUIComponent::refusesNotANumber(double value, const char* function) const
+{
+    if (!std::isnan(value))
+        return false;
+    logError(QStringLiteral("Refused a value that is not a number"), function, __FILE__, __LINE__);
+    return true;
 }
 
 void VynUIComponent::setComponentType(VynViewUtils::VynUIComponentType type)

@@ -152,6 +152,9 @@ protected:
     static void addLogDestination(const QMetaObject* metaObject, int level);
     //! Queues \a message at level 2 under this object's class name.
     void logError(const QString& message, const char* function, const char* file, int line) const;
+    //! True, after one logged line naming \a function, when \a value is NaN: a setter that
+    //! gets this answer keeps its old value and emits nothing.
+    bool refusesNotANumber(double value, const char* function) const;
 
 private:
     void setSecurityKeyOrType(const QString& key, VynCommonConstants::VynSecurityType type);

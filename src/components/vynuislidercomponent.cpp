@@ -4,6 +4,7 @@
 
 #include <QJSEngine>
 
+#include <algorithm>
 #include <cmath>
 
 VynUISliderComponent::VynUISliderComponent(QObject* parent, bool p_enableLogs)
@@ -16,6 +17,29 @@ VynUISliderComponent::VynUISliderComponent(QObject* parent, bool p_enableLogs)
 }
 
 VynUISliderComponent::~VynUISliderComponent() = default;
+
+bool VynUISliderComponent::refusesNonFiniteLimit(double value, const char* function) const
+{
+    if (std::isfinite(value))
+        return false;
+    logError(QStringLiteral("Refused a limit that is not a finite number"), function, __FILE__,
+             __LINE__);
+    return true;
+}
+
+double VynUISliderComponent::clampedInfinity(double value) const
+{
+    if (!std::isinf(value))
+        return value;
+    return value > 0 ? std::max(m_maxValue, m_minValue) : std::min(m_maxValue, m_minValue);
+}
+
+double VynUISliderComponent::firstNotANumber(const QList<double>& values)
+{
+    const auto found =
+        std::find_if(values.cbegin(), values.cend(), [](double v) { return std::isnan(v); });
+    return found == values.cend() ? 0.0 : *found;
+}
 
 bool VynUISliderComponent::fuzzyEquals(double a, double b)
 {
@@ -40,7 +64,7 @@ void VynUISliderComponent::setSliding(bool sliding)
 
 void VynUISliderComponent::setMinValue(double value)
 {
-    if (fuzzyEquals(value, m_minValue))
+    if (refusesNonFiniteLimit(value, "setMinValue") || fuzzyEquals(value, m_minValue))
         return;
     m_minValue = value;
     emit minValueChanged();
@@ -48,7 +72,7 @@ void VynUISliderComponent::setMinValue(double value)
 
 void VynUISliderComponent::setMaxValue(double value)
 {
-    if (fuzzyEquals(value, m_maxValue))
+    if (refusesNonFiniteLimit(value, "setMaxValue") || fuzzyEquals(value, m_maxValue))
         return;
     m_maxValue = value;
     emit maxValueChanged();
@@ -56,6 +80,9 @@ void VynUISliderComponent::setMaxValue(double value)
 
 void VynUISliderComponent::setInitValue(double value)
 {
+    if (refusesNotANumber(value, "setInitValue"))
+        return;
+    value = clampedInfinity(value);
     if (fuzzyEquals(value, m_initValue))
         return;
     m_initValue = value;
@@ -64,6 +91,9 @@ void VynUISliderComponent::setInitValue(double value)
 
 void VynUISliderComponent::setPrevValue(double value)
 {
+    if (refusesNotANumber(value, "setPrevValue"))
+        return;
+    value = clampedInfinity(value);
     if (value == m_prevValue)
         return;
     m_prevValue = value;
@@ -72,6 +102,8 @@ void VynUISliderComponent::setPrevValue(double value)
 
 void VynUISliderComponent::setValues(const QList<double>& values)
 {
+    if (refusesNotANumber(firstNotANumber(values), "setValues"))
+        return;
     QVariantList list;
     list.reserve(values.size());
     for (double v : values)
@@ -84,6 +116,9 @@ void VynUISliderComponent::setValues(const QList<double>& values)
 
 void VynUISliderComponent::setValue(double value, bool mixed, const QList<double>& values)
 {
+    // One refusal for the whole echo: nothing of a half-valid echo is stored.
+    if (refusesNotANumber(std::isnan(value) ? value : firstNotANumber(values), "setValue"))
+        return;
     setValues(values);
     setMixed(mixed);
     setValueQml(std::max(std::min(value, m_maxValue), m_minValue));
@@ -98,6 +133,9 @@ QString VynUISliderComponent::formatValue(double value) const
 
 void VynUISliderComponent::setValueQml(double value)
 {
+    if (refusesNotANumber(value, "setValueQml"))
+        return;
+    value = clampedInfinity(value);
     if (fuzzyEquals(value, m_value) && !m_stringValue.isEmpty())
         return;
     m_value = value;
@@ -199,10 +237,17 @@ bool VynUISliderComponent::expectsValue(double p_value, bool p_isRelative, doubl
 {
     if (!m_valueValidator)
         return false;
+    // A value that is not a number is never offered: the host could not send it anyway.
+    if (refusesNotANumber(p_value, "expectsValue") ||
+        refusesNotANumber(p_prevValue, "expectsValue"))
+        return false;
     // A copy: the validator may install another one while it runs.
     const ValueValidator validator = m_valueValidator;
     double value = p_value;
     const bool accepted = validator(this, value, p_isRelative, p_prevValue, p_isFinal);
+    // A validator that answers NaN refuses: the value stays as it was.
+    if (refusesNotANumber(value, "expectsValue"))
+        return false;
     setValueQml(value);
     return accepted;
 }

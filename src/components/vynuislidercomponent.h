@@ -29,6 +29,14 @@
     valueChanged() once for both. minValue, maxValue and initValue use the same
     fuzzy rule; prevValue and sliding compare exactly.
 
+    Values that are not numbers: a NaN handed to any setter (value, values,
+    limits, initValue, prevValue) is refused: the old state stays, nothing is
+    emitted, one line is logged; setValue() with a NaN in its values list is
+    refused as a whole. minValue and maxValue also refuse infinities. An
+    infinite value, initValue or prevValue becomes the end of the range on its
+    side. expectsValue() never offers NaN to the validator (it answers false),
+    and a NaN that a validator answers is refused in the same way.
+
     Edit out, from the user: shouldBeginSliding() and expectsValue() ask the
     host's validators. Without a sliding validator sliding never begins;
     without a value validator every proposed value is refused (false) and
@@ -143,6 +151,12 @@ protected:
     void refreshStringValue();
     //! A JavaScript handle on this component, null outside any engine.
     QJSValue jsSelf();
+    //! True, after one logged line, when \a value is NaN or infinite.
+    bool refusesNonFiniteLimit(double value, const char* function) const;
+    //! \a value, with an infinity replaced by the end of the range on its side.
+    double clampedInfinity(double value) const;
+    //! The first NaN of \a values, else 0.
+    static double firstNotANumber(const QList<double>& values);
 
 private:
     bool m_mixed = false;

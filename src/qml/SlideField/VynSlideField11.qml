@@ -63,7 +63,7 @@ VynTextField {
     property bool isLongPressed: false
     property VynUISlideFieldComponent uiSlideFieldComponent: null
     // The value's text; the field shows it unless a text-field value or "mixed" says otherwise.
-    property string stringValue: String(displayedValue)
+    property string stringValue: isNaN(displayedValue) ? "" : String(displayedValue)
     // A vynTextFieldValue from the model, or null.
     property var textFieldValue: null
     // Whether the last gesture ended accepted (false after a refusal, a long press, a cancel).
@@ -142,6 +142,10 @@ VynTextField {
     readonly property int _slideFieldEndedTimerDelay: 600
 
     function setValue(p_value, p_truncate = true) {
+        if (isNaN(p_value)) {
+            console.warn("VynSlideField11: refused a value that is not a number")
+            return
+        }
         const v = p_truncate ? _clamped(p_value) : p_value
         value = v
         if (!panning)
@@ -178,8 +182,8 @@ VynTextField {
     // Offers a final value outside a pan (a step or a typed entry), restoring lastValue when it
     // is refused.
     function _offerFinal(p_value, p_forceAbsolute) {
-        if (p_value === value)
-            return true
+        if (p_value === value || isNaN(p_value))
+            return p_value === value
         const previousLastValue = lastValue
         setLastValue.call(root, value)
         const accepted = slideFieldExpectsValue.call(root, p_value, p_forceAbsolute, lastValue, true)
@@ -233,7 +237,9 @@ VynTextField {
     property real _panLastStepTime: 0
 
     function _panPress(p_x, p_y) {
-        if (securityType === VynCommonConstants.VynSecurityTypeDisable || !shouldBeginSliding.call(root))
+        // A value not known yet (NaN) has no start to pan from.
+        if (securityType === VynCommonConstants.VynSecurityTypeDisable || isNaN(value)
+                || !shouldBeginSliding.call(root))
             return false
         _panStartPoint = Qt.point(p_x, p_y)
         startValue = value

@@ -104,12 +104,18 @@ VynItem {
         if (root.dragging || root.incrementing || !root.mixed || !root.values || root.values.length === 0)
             return
         const average = ArrayUtils.average(root.values)
+        if (isNaN(average))
+            return
         root.displayedValue = average
         root.virtualValue = average
         root.value = average
     }
 
     function setValue(p_value, p_truncate = true, p_roundToStep = true) {
+        if (isNaN(p_value)) {
+            console.warn("VynSlider12: refused a value that is not a number")
+            return
+        }
         let v = p_truncate ? _clamped(p_value) : p_value
         if (stepSize > 0 && p_roundToStep) {
             virtualValue = v
@@ -154,8 +160,8 @@ VynItem {
     }
 
     function _offerFinal(p_value) {
-        if (p_value === value)
-            return true
+        if (p_value === value || isNaN(p_value))
+            return p_value === value
         const previousLastValue = lastValue
         setLastValue.call(root, value)
         const accepted = sliderExpectsValue.call(root, p_value, false, lastValue, true)
@@ -202,7 +208,9 @@ VynItem {
     readonly property real _thumbCross: VynUIQmlConstants.sliderThumbHeight(vynControlSize, vynPixelRatio)
     readonly property real _trackStart: _thumbLength / 2 + VynUIQmlConstants.sliderInsetsH(vynControlSize, vynPixelRatio)
     readonly property real _trackLength: Math.max(1, _axisLength - 2 * _trackStart)
-    readonly property real _thumbPosition: positionForValue(displayedValue)
+    // A value not known yet (NaN) shows no thumb and no fill; the thumb waits at the start.
+    readonly property bool _valueKnown: !isNaN(displayedValue)
+    readonly property real _thumbPosition: _valueKnown ? positionForValue(displayedValue) : _trackStart
     readonly property real _zeroPosition: positionForValue(from <= 0 && to >= 0 ? 0 : from)
 
     // Axis coordinate of a point of the control, and the coordinate across the axis.
@@ -272,7 +280,7 @@ VynItem {
         readonly property real x2: root._itemX(b)
         readonly property real y1: root._itemY(a)
         readonly property real y2: root._itemY(b)
-        visible: !root.mixed && b - a >= 1
+        visible: !root.mixed && root._valueKnown && b - a >= 1
         x: root.vertical ? track.x : Math.min(x1, x2)
         y: root.vertical ? Math.min(y1, y2) : track.y
         width: root.vertical ? track.width : Math.abs(x2 - x1)
@@ -308,6 +316,7 @@ VynItem {
     Rectangle {
         id: thumb
         objectName: "thumb"
+        visible: root._valueKnown
         readonly property real centreX: root._itemX(root._thumbPosition)
         readonly property real centreY: root._itemY(root._thumbPosition)
         width: root.vertical ? root._thumbCross : root._thumbLength
@@ -401,6 +410,8 @@ VynItem {
         }
         let newValue = virtualValue + (reverse ? -1 : 1) * delta / _trackLength * valueRange
         newValue = _clamped(newValue)
+        if (isNaN(newValue))
+            return
         if (newValue !== virtualValue) {
             if (live) {
                 const previousLastValue = lastValue

@@ -1,0 +1,260 @@
+// Values that are not numbers, handed in by a host whose device has not answered yet (NaN) or
+// that reports an overflow (infinity). One table per family of setters: a NaN is refused (old
+// state kept, no signal at all, exactly one log line); an infinity becomes the end of the range
+// where a range exists, and is refused where none does.
+
+#include "vynuislidefieldcomponent.h"
+#include "vynuislidercomponent.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+// Counts every emission of every signal of an object.
+class AllSignals
+{
+public:
+    explicit AllSignals(QObject* object)
+    {
+        const QMetaObject* meta = object->metaObject();
+        for (int i = 0; i < meta->methodCount(); ++i) {
+            const QMetaMethod method = meta->method(i);
+            if (method.methodType() == QMetaMethod::Signal && method.name() != "destroyed" &&
+                method.name() != "objectNameChanged")
+                m_spies.push_back(std::make_unique<QSignalSpy>(object, method));
+        }
+    }
+    QStringList fired() const
+    {
+        QStringList names;
+        for (const auto& spy : m_spies) {
+            if (!spy->isEmpty())
+                names << QString::fromLatin1(spy->signal());
+        }
+        return names;
+    }
+
+private:
+    std::vector<std::unique_ptr<QSignalSpy>> m_spies;
+};
+
+// Counts the warnings logged while it lives (the components log through qWarning() when the
+// host created no logger).
+class WarningCounter
+{
+public:
+    WarningCounter() { s_count = 0, s_previous = qInstallMessageHandler(handler); }
+    ~WarningCounter() { qInstallMessageHandler(s_previous); }
+    int count() const { return s_count; }
+
+private:
+    static void handler(QtMsgType type, const QMessageLogContext&, const QString&)
+    {
+        if (type == QtWarningMsg)
+            ++s_count;
+    }
+    static inline int s_count = 0;
+    static inline QtMessageHandler s_previous = nullptr;
+};
+
+enum class Setter { Value, ValueQml, Values, MinValue, MaxValue, InitValue, PrevValue };
+
+// A slider component with range [-60, 12], value -6, init 0, prev -3 and values {-6}.
+std::unique_ptr<VynUISliderComponent> makeComponent(bool slideField)
+{
+    std::unique_ptr<VynUISliderComponent> c;
+    if (slideField)
+        c = std::make_unique<VynUISlideFieldComponent>(nullptr, false);
+    else
+        c = std::make_unique<VynUISliderComponent>(nullptr, false);
+    c->setMinValue(-60.0);
+    c->setMaxValue(12.0);
+    c->setInitValue(0.0);
+    c->setPrevValue(-3.0);
+    c->setValue(-6.0, false, {-6.0});
+    return c;
+}
+
+void apply(VynUISliderComponent* c, Setter setter, double input)
+{
+    switch (setter) {
+    case Setter::Value:
+        c->setValue(input, false, {input});
+        break;
+    case Setter::ValueQml:
+        c->setValueQml(input);
+        break;
+    case Setter::Values:
+        c->setValue(-6.0, true, {-6.0, input});
+        break;
+    case Setter::MinValue:
+        c->setMinValue(input);
+        break;
+    case Setter::MaxValue:
+        c->setMaxValue(input);
+        break;
+    case Setter::InitValue:
+        c->setInitValue(input);
+        break;
+    case Setter::PrevValue:
+        c->setPrevValue(input);
+        break;
+    }
+}
+
+struct State
+{
+    double value, minValue, maxValue, initValue, prevValue;
+    QVariantList values;
+    bool mixed;
+    QString text;
+
+    explicit State(const VynUISliderComponent* c)
+        : value(c->value()), minValue(c->minValue()), maxValue(c->maxValue()),
+          initValue(c->initValue()), prevValue(c->prevValue()), values(c->values()),
+          mixed(c->mixed()), text(c->stringValue())
+    {}
+    bool operator==(const State& o) const
+    {
+        return value == o.value && minValue == o.minValue && maxValue == o.maxValue &&
+               initValue == o.initValue && prevValue == o.prevValue && values == o.values &&
+               mixed == o.mixed && text == o.text;
+    }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Setter)
+
+class tst_HostileValues : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void componentSetters_data();
+    void componentSetters();
+    void componentValidators_data();
+    void componentValidators();
+};
+
+void tst_HostileValues::componentSetters_data()
+{
+    QTest::addColumn<bool>("slideField");
+    QTest::addColumn<Setter>("setter");
+    QTest::addColumn<double>("input");
+    // NaN when refused; otherwise the value the property reads afterwards.
+    QTest::addColumn<double>("expected");
+    QTest::addColumn<QString>("property");
+
+    struct Row
+    {
+        const char* name;
+        Setter setter;
+        const char* property;
+        double input, expected;
+    };
+    const Row rows[] = {
+        {"value NaN", Setter::Value, "value", kNaN, kNaN},
+        {"value +inf", Setter::Value, "value", kInf, 12.0},
+        {"value -inf", Setter::Value, "value", -kInf, -60.0},
+        {"value from QML NaN", Setter::ValueQml, "value", kNaN, kNaN},
+        {"value from QML +inf", Setter::ValueQml, "value", kInf, 12.0},
+        {"value from QML -inf", Setter::ValueQml, "value", -kInf, -60.0},
+        {"NaN among values", Setter::Values, "value", kNaN, kNaN},
+        {"minValue NaN", Setter::MinValue, "minValue", kNaN, kNaN},
+        {"minValue -inf", Setter::MinValue, "minValue", -kInf, kNaN},
+        {"maxValue NaN", Setter::MaxValue, "maxValue", kNaN, kNaN},
+        {"maxValue +inf", Setter::MaxValue, "maxValue", kInf, kNaN},
+        {"initValue NaN", Setter::InitValue, "initValue", kNaN, kNaN},
+        {"initValue +inf", Setter::InitValue, "initValue", kInf, 12.0},
+        {"prevValue NaN", Setter::PrevValue, "prevValue", kNaN, kNaN},
+        {"prevValue -inf", Setter::PrevValue, "prevValue", -kInf, -60.0},
+    };
+    for (bool slideField : {false, true}) {
+        for (const Row& row : rows) {
+            QTest::addRow("%s %s", slideField ? "field" : "slider", row.name)
+                << slideField << row.setter << row.input << row.expected
+                << QString::fromLatin1(row.property);
+        }
+    }
+}
+
+void tst_HostileValues::componentSetters()
+{
+    QFETCH(bool, slideField);
+    QFETCH(Setter, setter);
+    QFETCH(double, input);
+    QFETCH(double, expected);
+    QFETCH(QString, property);
+
+    auto c = makeComponent(slideField);
+    const State before(c.get());
+    AllSignals emitted(c.get());
+    WarningCounter warnings;
+    apply(c.get(), setter, input);
+
+    if (std::isnan(expected)) {
+        QVERIFY(State(c.get()) == before);
+        QCOMPARE(emitted.fired(), QStringList());
+        QCOMPARE(warnings.count(), 1);
+    } else {
+        QCOMPARE(c->property(property.toLatin1()).toDouble(), expected);
+        QVERIFY(!emitted.fired().isEmpty());
+        QCOMPARE(warnings.count(), 0);
+    }
+    QVERIFY(!std::isnan(c->value()));
+    QVERIFY(!c->stringValue().contains(QLatin1String("nan"), Qt::CaseInsensitive));
+}
+
+void tst_HostileValues::componentValidators_data()
+{
+    QTest::addColumn<double>("offered");
+    QTest::addColumn<double>("prevValue");
+    QTest::addColumn<double>("answered"); // what the validator writes back; NaN: keeps it
+    QTest::addColumn<int>("validatorCalls");
+
+    QTest::newRow("NaN offered") << kNaN << -6.0 << 0.0 << 0;
+    QTest::newRow("NaN previous value") << -3.0 << kNaN << 0.0 << 0;
+    QTest::newRow("validator answers NaN") << -3.0 << -6.0 << kNaN << 1;
+}
+
+void tst_HostileValues::componentValidators()
+{
+    QFETCH(double, offered);
+    QFETCH(double, prevValue);
+    QFETCH(double, answered);
+    QFETCH(int, validatorCalls);
+
+    for (bool slideField : {false, true}) {
+        auto c = makeComponent(slideField);
+        int calls = 0;
+        c->setValueValidator(
+            [&](VynUISliderComponent*, double& value, bool, double previous, bool) {
+                ++calls;
+                if (std::isnan(value) || std::isnan(previous))
+                    qFatal("a validator was offered NaN");
+                value = answered;
+                return true;
+            });
+        const State before(c.get());
+        AllSignals emitted(c.get());
+        WarningCounter warnings;
+        QVERIFY(!c->expectsValue(offered, false, prevValue, true));
+        QCOMPARE(calls, validatorCalls);
+        QVERIFY(State(c.get()) == before);
+        QCOMPARE(emitted.fired(), QStringList());
+        QCOMPARE(warnings.count(), 1);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_HostileValues)
+#include "tst_hostilevalues.moc"
