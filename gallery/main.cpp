@@ -3,19 +3,26 @@
 //   vynui-gallery                      open the window (offscreen with a screenshot when
 //                                      there is no display)
 //   vynui-gallery --screenshot F.png   render offscreen to F.png and exit
+//   vynui-gallery --check-layout       show every page, report overlapping controls and
+//                                      controls out of reach, exit 1 when there are any
 //   options: --appearance light|dark, --page <title>, --size WxH, --delay ms
+
+#include "gallerylayoutcheck.h"
 
 #include <vynuiplugin.h>
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
+#include <QQuickItem>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -50,7 +57,8 @@ int main(int argc, char** argv)
 {
     // The platform has to be chosen before the application object exists.
     const bool platformGiven = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-    const bool screenshotAsked = argumentGiven(argc, argv, "--screenshot");
+    const bool screenshotAsked =
+        argumentGiven(argc, argv, "--screenshot") || argumentGiven(argc, argv, "--check-layout");
     const bool headless = !platformGiven && !hasDisplay();
     if ((screenshotAsked || headless) && !platformGiven)
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -85,11 +93,17 @@ int main(int argc, char** argv)
         QStringLiteral("delay"),
         QStringLiteral("Milliseconds to let the simulated devices settle before a screenshot."),
         QStringLiteral("ms"), QStringLiteral("2000"));
-    parser.addOptions({screenshotOption, styleOption, pageOption, sizeOption, delayOption});
+    const QCommandLineOption checkLayoutOption(
+        QStringLiteral("check-layout"),
+        QStringLiteral("Show every page offscreen, print overlapping controls and controls out of "
+                       "reach, exit 1 when there are any."));
+    parser.addOptions(
+        {screenshotOption, styleOption, pageOption, sizeOption, delayOption, checkLayoutOption});
     parser.process(app);
 
     QString screenshot = parser.value(screenshotOption);
-    if (headless && screenshot.isEmpty()) {
+    const bool checkLayout = parser.isSet(checkLayoutOption);
+    if (headless && screenshot.isEmpty() && !checkLayout) {
         screenshot = QStringLiteral("gallery.png");
         std::fprintf(stderr, "No display: rendering offscreen to %s\n", qPrintable(screenshot));
     }
@@ -129,7 +143,33 @@ int main(int argc, char** argv)
         return 1;
     }
 
-    if (!screenshot.isEmpty()) {
+    if (checkLayout) {
+        QTimer::singleShot(std::min(delay, 500), &app, [&]() {
+            int faultCount = 0;
+            const QVariantList pages = window->property("pages").toList();
+            for (const QVariant& page : pages) {
+                const QString title = page.toMap().value(QStringLiteral("title")).toString();
+                window->setProperty("initialPage", title);
+                QEventLoop settle;
+                QTimer::singleShot(150, &settle, &QEventLoop::quit);
+                settle.exec();
+                window->grabWindow(); // polish and lay out as a frame would
+                auto* loader = window->findChild<QQuickItem*>(QStringLiteral("pageLoader"));
+                const QStringList faults = GalleryLayoutCheck::faults(
+                    loader ? loader->property("item").value<QQuickItem*>() : nullptr);
+                for (const QString& fault : faults)
+                    std::fprintf(stdout, "%s: %s\n", qPrintable(title), qPrintable(fault));
+                faultCount += int(faults.size());
+            }
+            std::fprintf(stdout, "Checked %d pages at %dx%d: %d layout faults\n", int(pages.size()),
+                         window->width(), window->height(), faultCount);
+            QCoreApplication::exit(faultCount == 0 ? 0 : 1);
+        });
+        QTimer::singleShot(120000, &app, []() {
+            std::fprintf(stderr, "Timed out while checking the layout.\n");
+            QCoreApplication::exit(3);
+        });
+    } else if (!screenshot.isEmpty()) {
         QTimer::singleShot(delay, &app, [&]() {
             const QImage image = window->grabWindow();
             const bool saved = !image.isNull() && image.save(screenshot, "PNG");

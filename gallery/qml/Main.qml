@@ -122,6 +122,7 @@ ApplicationWindow {
 
         Loader {
             id: pageLoader
+            objectName: "pageLoader"
             Layout.fillWidth: true
             Layout.fillHeight: true
             source: window.pages[pageList.currentIndex].source

@@ -19,10 +19,20 @@ Flickable {
     readonly property real gap: VynUIQmlConstants.marginWindow()
     readonly property real faderHeight: 220
 
-    contentWidth: width
+    // The delay card needs this much to keep every field and slider usable.
+    readonly property real fieldCardMinimumWidth: 600
+    // Side by side where both columns fit, else the gain column above the fields.
+    readonly property bool twoColumns: width - 2 * gap >= gainCard.implicitWidth + gap + fieldCardMinimumWidth
+    readonly property real contentMinimumWidth: twoColumns
+                                                ? gainCard.implicitWidth + gap + fieldCardMinimumWidth
+                                                : Math.max(gainCard.implicitWidth, fieldCardMinimumWidth)
+
+    // Narrower than its content, the page scrolls sideways instead of squeezing.
+    contentWidth: Math.max(width, contentMinimumWidth + 2 * gap)
     contentHeight: content.implicitHeight + 2 * gap
     clip: true
     ScrollBar.vertical: ScrollBar {}
+    ScrollBar.horizontal: ScrollBar {}
 
     VynSimulatedAmplifier {
         id: amplifier
@@ -191,6 +201,7 @@ Flickable {
         }
         VynUISliderAndField {
             Layout.fillWidth: true
+            Layout.minimumWidth: fieldWidth + 100
             Layout.preferredHeight: implicitHeight
             vynStyle: page.vynStyle
             uiSlideFieldComponent: fieldRow.delay
@@ -221,7 +232,7 @@ Flickable {
         id: content
         x: page.gap
         y: page.gap
-        width: page.width - 2 * page.gap
+        width: page.contentWidth - 2 * page.gap
         spacing: page.gap
 
         ColumnLayout {
@@ -235,6 +246,7 @@ Flickable {
             VynLabel {
                 Layout.fillWidth: true
                 Layout.preferredWidth: content.width
+                Layout.maximumWidth: content.width
                 wrapMode: Text.WordWrap
                 font.pixelSize: VynUIQmlConstants.fontSize()
                 color: VynUIQmlConstants.labelColorForStyle(page.vynStyle, 1)
@@ -243,14 +255,16 @@ Flickable {
             }
         }
 
-        RowLayout {
+        GridLayout {
             Layout.fillWidth: true
-            spacing: page.gap
+            columns: page.twoColumns ? 2 : 1
+            columnSpacing: page.gap
+            rowSpacing: page.gap
 
             ColumnLayout {
                 Layout.alignment: Qt.AlignTop
                 Layout.preferredWidth: gainCard.implicitWidth
-                Layout.maximumWidth: gainCard.implicitWidth
+                Layout.maximumWidth: page.twoColumns ? gainCard.implicitWidth : content.width
                 spacing: page.gap
 
             Card {
@@ -332,6 +346,7 @@ Flickable {
             ColumnLayout {
                 Layout.alignment: Qt.AlignTop
                 Layout.fillWidth: true
+                Layout.minimumWidth: page.fieldCardMinimumWidth
                 spacing: page.gap
 
                 Card {

@@ -49,10 +49,15 @@ Flickable {
         { name: "sliderThumbHeight", value: z => VynUIQmlConstants.sliderThumbHeight(z) }
     ]
 
-    contentWidth: width
+    // Narrower than its content, the page scrolls sideways instead of squeezing.
+    contentWidth: Math.max(width, column.implicitWidth + 48)
     contentHeight: column.implicitHeight + 48
     clip: true
     ScrollBar.vertical: ScrollBar {}
+    ScrollBar.horizontal: ScrollBar {}
+
+    // The narrowest row of a colour: swatch, shortest useful name, longest value.
+    readonly property real swatchRowMinimum: 28 + 8 + 96 + 8 + 52
 
     component StylePanel: Rectangle {
         id: panel
@@ -61,6 +66,7 @@ Flickable {
         required property string title
 
         implicitHeight: panelColumn.implicitHeight + 24
+        implicitWidth: panelColumn.implicitWidth + 24
         radius: 6
         color: VynUIQmlConstants.viewBackgroundColorForStyle(panel.vynStyle, 0)
         border.color: VynUIQmlConstants.tableViewBorderColorForStyle(panel.vynStyle)
@@ -131,7 +137,8 @@ Flickable {
 
             GridLayout {
                 Layout.fillWidth: true
-                columns: 2
+                // Two columns of colours where two fit.
+                columns: panelColumn.width >= 2 * page.swatchRowMinimum + 16 ? 2 : 1
                 columnSpacing: 16
                 rowSpacing: 6
 
@@ -151,12 +158,16 @@ Flickable {
                         }
                         Label {
                             Layout.fillWidth: true
+                            Layout.minimumWidth: 96
+                            Layout.preferredWidth: 96
                             text: swatchRow.modelData.name
                             elide: Text.ElideRight
                             font.pixelSize: VynUIQmlConstants.fontSize(VynViewUtils.VynControlSizeSmall)
                             color: VynUIQmlConstants.labelColorForStyle(panel.vynStyle, 0)
                         }
                         Label {
+                            Layout.preferredWidth: 52
+                            horizontalAlignment: Text.AlignRight
                             text: String(swatchRow.modelData.color(panel.vynStyle))
                             font.pixelSize: VynUIQmlConstants.fontSize(VynViewUtils.VynControlSizeMini)
                             font.family: "monospace"
@@ -172,7 +183,7 @@ Flickable {
         id: column
         x: 24
         y: 24
-        width: page.width - 48
+        width: page.contentWidth - 48
         spacing: 16
 
         Label {
@@ -183,14 +194,20 @@ Flickable {
         }
         Label {
             Layout.fillWidth: true
+            // Wraps to the page; never widens it.
+            Layout.preferredWidth: 320
             wrapMode: Text.WordWrap
             color: GalleryTheme.secondaryTextColor
             text: qsTr("Every colour is read from the tables by style, state and level (VynUIQmlConstants). The two styles side by side; the switch above turns the gallery's own frame light or dark.")
         }
-        RowLayout {
+        // The two styles side by side where both fit, else one above the other.
+        GridLayout {
             Layout.fillWidth: true
-            spacing: 16
+            columns: page.width - 48 >= 2 * lightPanel.implicitWidth + 16 ? 2 : 1
+            columnSpacing: 16
+            rowSpacing: 16
             StylePanel {
+                id: lightPanel
                 Layout.fillWidth: true
                 Layout.alignment: Qt.AlignTop
                 vynStyle: VynColorUtils.VynStyleLight
@@ -212,8 +229,10 @@ Flickable {
             topPadding: 8
         }
         Rectangle {
+            id: metricsTable
             Layout.fillWidth: true
             implicitHeight: metricsGrid.implicitHeight + 24
+            implicitWidth: metricsGrid.implicitWidth + 24
             radius: 6
             color: GalleryTheme.panelColor
             border.color: GalleryTheme.separatorColor
@@ -238,7 +257,8 @@ Flickable {
                         required property var modelData
                         text: modelData.name
                         color: GalleryTheme.secondaryTextColor
-                        Layout.preferredWidth: 110
+                        Layout.preferredWidth: 96
+                        Layout.fillWidth: true
                     }
                 }
 
@@ -251,7 +271,8 @@ Flickable {
                     Rectangle {
                         id: sizeSample
                         required property var modelData
-                        Layout.preferredWidth: 110
+                        Layout.preferredWidth: 96
+                        Layout.fillWidth: true
                         implicitHeight: VynUIQmlConstants.bezelButtonHeight(sizeSample.modelData.value)
                         radius: VynUIQmlConstants.bezelButtonCornerRadius(sizeSample.modelData.value)
                         color: VynUIQmlConstants.controlColorForStyle(GalleryTheme.vynStyle, 1)
