@@ -9,6 +9,8 @@
 //   bench_creation                 every pair, 500 instances, 3 rounds
 //   bench_creation -n 300 -r 5     other counts
 //   bench_creation -f Slider       only the pairs whose name contains "Slider"
+//   bench_creation --pair 'VynSlideField11 { hasPlus: true }|SpinBox {}'
+//                                  one pair of QML bodies given on the command line
 //   bench_creation --check 2       exit code 1 when a creation ratio exceeds 2
 //                                  (the host-push ratio is checked against twice the limit)
 
@@ -43,6 +45,10 @@ struct Pair
 // to the module joins this table.
 const Pair kPairs[] = {
     {"VynSlideField11 / SpinBox", "VynSlideField11 { width: 120 }", "SpinBox { width: 120 }"},
+    {"VynSlideField11 dressed / SpinBox",
+     "VynSlideField11 { width: 200; allowsPanning: true; hasMinus: true; hasPlus: true;"
+     " title: \"Delay\"; unitModel: [\"ms\", \"m\"] }",
+     "SpinBox { width: 200 }"},
     {"VynSlider12 / Slider", "VynSlider12 { width: 200 }", "Slider { width: 200 }"},
     {"VynUISlider / Slider", "VynUISlider { width: 200 }", "Slider { width: 200 }"},
     {"VynUISlideField / SpinBox", "VynUISlideField { width: 120 }", "SpinBox { width: 120 }"},
@@ -179,7 +185,9 @@ int main(int argc, char** argv)
     QCommandLineOption filterOption({"f", "filter"}, "Only pairs whose name contains this.",
                                     "text");
     QCommandLineOption checkOption("check", "Exit 1 when a creation ratio exceeds this.", "ratio");
-    parser.addOptions({countOption, roundsOption, filterOption, checkOption});
+    QCommandLineOption pairOption("pair", "Measure only this pair: 'vyn body|anchor body'.",
+                                  "bodies");
+    parser.addOptions({countOption, roundsOption, filterOption, checkOption, pairOption});
     parser.process(app);
     const int count = std::max(1, parser.value(countOption).toInt());
     const int rounds = std::max(1, parser.value(roundsOption).toInt());
@@ -192,8 +200,15 @@ int main(int argc, char** argv)
 
     Bench bench;
     bool withinLimit = true;
+    std::vector<Pair> pairs(std::begin(kPairs), std::end(kPairs));
+    const QStringList given = parser.value(pairOption).split(QLatin1Char('|'));
+    std::vector<QByteArray> givenBodies;
+    if (parser.isSet(pairOption) && given.size() == 2) {
+        givenBodies = {given.at(0).toUtf8(), given.at(1).toUtf8()};
+        pairs = {{"given pair", givenBodies[0].constData(), givenBodies[1].constData()}};
+    }
     std::printf("%-40s %12s %12s %8s\n", "control / anchor", "vyn ms", "anchor ms", "ratio");
-    for (const Pair& pair : kPairs) {
+    for (const Pair& pair : pairs) {
         if (!filter.isEmpty() && !QString::fromUtf8(pair.name).contains(filter))
             continue;
         bench.creation(pair.vyn, 10); // warm-up: type loading, caches, fonts
@@ -209,7 +224,8 @@ int main(int argc, char** argv)
             withinLimit = false;
     }
 
-    if (filter.isEmpty() || QStringLiteral("host push").contains(filter)) {
+    if (!parser.isSet(pairOption) &&
+        (filter.isEmpty() || QStringLiteral("host push").contains(filter))) {
         constexpr int kControls = 300;
         constexpr int kWrites = 3000;
         bench.hostPush(true, 10, 100);

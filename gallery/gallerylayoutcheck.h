@@ -15,8 +15,9 @@ class QQuickItem;
 
     Faults: two controls whose rectangles overlap by at least a pixel in both directions
     ("overlap"), a control given less than half of its implicit width or height
-    ("squeezed"; a wrapping text only by its height), and a control that reaches past a clipping ancestor or past the area it can
-    be scrolled to: the content of its nearest Flickable, or the window when there is none
+    ("squeezed"; a wrapping text only by its height), and a control that reaches past a clipping
+   ancestor or past the area it can be scrolled to: the content of its nearest Flickable, or the
+   window when there is none
     ("outside").
 */
 class GalleryLayoutCheck

@@ -77,7 +77,7 @@ VynTextField {
     property bool hasPlus: false
     property bool allowsPanning: false
     property bool isReverse: false
-    property alias title: titleLabel.text
+    property string title: ""
     readonly property bool hasTitle: title.length > 0
     property var unitModel: []
     property int unitIndex: 0
@@ -103,7 +103,37 @@ VynTextField {
             root.acceptAction.call(root, p_fullText)
         }, function () {})
     }
-    Component.onCompleted: onAcceptedCallback = _acceptEntry
+    Component.onCompleted: {
+        onAcceptedCallback = _acceptEntry
+        _makeParts()
+    }
+
+    // Parts made on first need and kept: the title, the panning handle, the unit button (its
+    // menu on first opening) and each step button. A field that never shows them never pays
+    // for them.
+    property Item _titleItem: null
+    property Item _panHandleItem: null
+    property Item _unitItem: null
+    property Item _minusItem: null
+    property Item _plusItem: null
+    function _makeParts() {
+        if (!_titleItem && hasTitle && !compressed)
+            _titleItem = titleComponent.createObject(root)
+        if (!_panHandleItem && allowsPanning)
+            _panHandleItem = panHandleComponent.createObject(root)
+        if (!_unitItem && _showsUnit)
+            _unitItem = unitButtonComponent.createObject(root)
+        if (!_minusItem && hasMinus)
+            _minusItem = minusComponent.createObject(root)
+        if (!_plusItem && hasPlus)
+            _plusItem = plusComponent.createObject(root)
+    }
+    onHasTitleChanged: _makeParts()
+    onCompressedChanged: _makeParts()
+    onAllowsPanningChanged: _makeParts()
+    on_ShowsUnitChanged: _makeParts()
+    onHasMinusChanged: _makeParts()
+    onHasPlusChanged: _makeParts()
 
     signal minusClicked()
     signal plusClicked()
@@ -373,20 +403,27 @@ VynTextField {
     readonly property real _fieldHeight: VynUIQmlConstants.textFieldHeight(vynControlSize, vynPixelRatio)
     readonly property real _border: Math.max(1, VynUIQmlConstants.textFieldBorder(vynPixelRatio))
     readonly property real _titleRoom: hasTitle && !compressed
-                                       ? (titleWidth > 0 ? titleWidth : Math.ceil(titleLabel.implicitWidth))
+                                       ? (titleWidth > 0 ? titleWidth
+                                                         : Math.ceil(_titleItem ? _titleItem.implicitWidth : 0))
                                          + VynUIQmlConstants.textFieldLabelTextSpacing(vynControlSize, vynPixelRatio)
                                        : 0
+    readonly property real _handleSize: allowsPanning
+                                        ? Math.max(VynUIQmlConstants.textFieldPanningIconHeightMin(vynPixelRatio),
+                                                   Math.round(height * VynUIQmlConstants.textFieldPanningIconHeightRatio()))
+                                        : 0
     readonly property real _handleRoom: allowsPanning
                                         ? VynUIQmlConstants.textFieldPanningIconInsetsL(vynControlSize, vynPixelRatio)
-                                          + panHandle.width
+                                          + _handleSize
                                           + VynUIQmlConstants.textFieldPanningIconTextSpacing(vynControlSize, vynPixelRatio)
                                         : 0
     readonly property bool _showsUnit: (displaysUnit || unitText.length > 0) && !compressed
                                        && unitText.length > 0
     readonly property real _unitRoom: _showsUnit
-                                      ? unitButton.width + VynUIQmlConstants.textFieldUnitButtonTextSpacing(vynControlSize, vynPixelRatio)
+                                      ? (_unitItem ? _unitItem.width : 0) + VynUIQmlConstants.textFieldUnitButtonTextSpacing(vynControlSize, vynPixelRatio)
                                         + VynUIQmlConstants.textFieldUnitButtonInsetsTBL(vynControlSize, vynPixelRatio)
                                       : 0
+    readonly property real _minusWidth: _minusItem ? _minusItem.width : 0
+    readonly property real _plusWidth: _plusItem ? _plusItem.width : 0
     readonly property real _buttonsRoom: (hasMinus ? _minusWidth : 0) + (hasPlus ? _plusWidth : 0)
 
     readonly property real _buttonsGap: hasMinus || hasPlus
@@ -394,18 +431,12 @@ VynTextField {
 
     implicitHeight: _fieldHeight
     implicitWidth: autoResize
-                   ? leftPadding + rightPadding + Math.ceil(measure.advanceWidth)
+                   ? leftPadding + rightPadding + Math.ceil(root.advanceWidth(root.editing ? root.text : root.fullText))
                    : _titleRoom + _buttonsRoom + _buttonsGap + 4 * _fieldHeight + _handleRoom + _unitRoom
     leftInset: _titleRoom
     rightInset: _buttonsRoom + _buttonsGap
     textInsetLeft: allowsPanning ? _handleRoom - VynUIQmlConstants.textFieldTextInsetsH(vynControlSize, vynPixelRatio) : 0
     textInsetRight: _unitRoom
-
-    TextMetrics {
-        id: measure
-        font: root.font
-        text: root.editing ? root.text : root.fullText
-    }
 
     maximumLength: 100
     validator: DoubleValidator {
@@ -418,161 +449,177 @@ VynTextField {
     }
 
     // --- Title ---
-    VynLabel {
-        id: titleLabel
-        objectName: "titleLabel"
-        visible: root.hasTitle && !root.compressed
-        x: 0
-        width: root.titleWidth > 0 ? root.titleWidth : implicitWidth
-        height: root.height
-        vynStyle: root.vynStyle
-        vynControlSize: root.vynControlSize
-        vynPixelRatio: root.vynPixelRatio
-        vynPixelRatioFont: root.vynPixelRatioFont
-        level: 1
+    Component {
+        id: titleComponent
+        VynLabel {
+            objectName: "titleLabel"
+            visible: root.hasTitle && !root.compressed
+            x: 0
+            width: root.titleWidth > 0 ? root.titleWidth : implicitWidth
+            height: root.height
+            text: root.title
+            vynStyle: root.vynStyle
+            vynControlSize: root.vynControlSize
+            vynPixelRatio: root.vynPixelRatio
+            vynPixelRatioFont: root.vynPixelRatioFont
+            level: 1
+        }
     }
 
     // --- Panning handle ---
-    Item {
-        id: panHandle
-        objectName: "panningHandle"
-        visible: root.allowsPanning
-        x: root.leftInset + VynUIQmlConstants.textFieldPanningIconInsetsL(root.vynControlSize, root.vynPixelRatio)
-        height: Math.max(VynUIQmlConstants.textFieldPanningIconHeightMin(root.vynPixelRatio),
-                         Math.round(root.height * VynUIQmlConstants.textFieldPanningIconHeightRatio()))
-        width: height
-        y: Math.round((root.height - height) / 2)
+    Component {
+        id: panHandleComponent
+        Item {
+            id: panHandle
+            objectName: "panningHandle"
+            visible: root.allowsPanning
+            x: root.leftInset + VynUIQmlConstants.textFieldPanningIconInsetsL(root.vynControlSize, root.vynPixelRatio)
+            height: root._handleSize
+            width: height
+            y: Math.round((root.height - height) / 2)
 
-        // The catalogue's pan handle (arrows left and right: drag sideways); brighter while
-        // hovered or panning.
-        Image {
-            anchors.fill: parent
-            source: VynImages.url("panHandle", root.vynStyle)
-            sourceSize.width: width
-            sourceSize.height: height
-            fillMode: Image.PreserveAspectFit
-            smooth: true
-            opacity: root.panning || handleArea.containsMouse ? 1.0 : VynUIQmlConstants.offlineAlpha()
+            // The catalogue's pan handle (arrows left and right: drag sideways); brighter while
+            // hovered or panning.
+            Image {
+                anchors.fill: parent
+                source: VynImages.url("panHandle", root.vynStyle)
+                sourceSize.width: width
+                sourceSize.height: height
+                fillMode: Image.PreserveAspectFit
+                smooth: true
+                opacity: root.panning || handleArea.containsMouse ? 1.0 : VynUIQmlConstants.offlineAlpha()
+            }
+
+            MouseArea {
+                id: handleArea
+                objectName: "panningArea"
+                anchors.fill: parent
+                anchors.margins: -Math.round(root.height * 0.1)
+                hoverEnabled: true
+                preventStealing: true
+                cursorShape: Qt.SizeHorCursor
+                acceptedButtons: Qt.LeftButton
+                property bool gestureOpen: false
+                // Whether this press panned: the pan has ended by the time `clicked` arrives.
+                property bool panned: false
+                onPressed: function (mouse) {
+                    const p = mapToItem(root, mouse.x, mouse.y)
+                    panned = false
+                    gestureOpen = root._panPress(p.x, p.y)
+                }
+                onPositionChanged: function (mouse) {
+                    if (!gestureOpen)
+                        return
+                    const p = mapToItem(root, mouse.x, mouse.y)
+                    root._panMove(p.x, p.y)
+                    panned = panned || root.panning
+                }
+                onReleased: function (mouse) {
+                    if (!gestureOpen)
+                        return
+                    gestureOpen = false
+                    root._release(false)
+                }
+                onCanceled: {
+                    if (!gestureOpen)
+                        return
+                    gestureOpen = false
+                    root._release(true)
+                }
+                // A press released on the handle without panning.
+                onClicked: function (mouse) {
+                    if (!panned)
+                        root.panningClicked()
+                }
+                // Reported even when the press itself was ignored (a disabled field); only an open
+                // gesture stays long-pressed until its release, which then ends it unaccepted.
+                onPressAndHold: function (mouse) {
+                    if (root.panning)
+                        return
+                    root.isLongPressed = true
+                    root.longPressed(mouse)
+                    if (!gestureOpen)
+                        root.isLongPressed = false
+                }
+            }
         }
 
-        MouseArea {
-            id: handleArea
-            objectName: "panningArea"
-            anchors.fill: parent
-            anchors.margins: -Math.round(root.height * 0.1)
-            hoverEnabled: true
-            preventStealing: true
-            cursorShape: Qt.SizeHorCursor
-            acceptedButtons: Qt.LeftButton
-            property bool gestureOpen: false
-            // Whether this press panned: the pan has ended by the time `clicked` arrives.
-            property bool panned: false
-            onPressed: function (mouse) {
-                const p = mapToItem(root, mouse.x, mouse.y)
-                panned = false
-                gestureOpen = root._panPress(p.x, p.y)
-            }
-            onPositionChanged: function (mouse) {
-                if (!gestureOpen)
-                    return
-                const p = mapToItem(root, mouse.x, mouse.y)
-                root._panMove(p.x, p.y)
-                panned = panned || root.panning
-            }
-            onReleased: function (mouse) {
-                if (!gestureOpen)
-                    return
-                gestureOpen = false
-                root._release(false)
-            }
-            onCanceled: {
-                if (!gestureOpen)
-                    return
-                gestureOpen = false
-                root._release(true)
-            }
-            // A press released on the handle without panning.
-            onClicked: function (mouse) {
-                if (!panned)
-                    root.panningClicked()
-            }
-            // Reported even when the press itself was ignored (a disabled field); only an open
-            // gesture stays long-pressed until its release, which then ends it unaccepted.
-            onPressAndHold: function (mouse) {
-                if (root.panning)
-                    return
-                root.isLongPressed = true
-                root.longPressed(mouse)
-                if (!gestureOpen)
-                    root.isLongPressed = false
-            }
-        }
     }
 
     // --- Unit label or chooser ---
-    Basic.AbstractButton {
-        id: unitButton
-        objectName: "unitButton"
-        visible: root._showsUnit
-        enabled: root.allowsUnitChoosing && root.enabled
-        focusPolicy: Qt.NoFocus
-        readonly property real insetTBL: VynUIQmlConstants.textFieldUnitButtonInsetsTBL(root.vynControlSize, root.vynPixelRatio)
-        x: root.width - root.rightInset - width - insetTBL
-        y: insetTBL + root._border
-        height: root.height - 2 * (insetTBL + root._border)
-        readonly property real chevronSize: root.allowsUnitChoosing
-                                            ? Math.round(VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont) * 0.8) : 0
-        width: Math.ceil(unitMetrics.advanceWidth) + chevronSize
-               + (root.allowsUnitChoosing ? VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio) : 0)
-               + 2 * VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
-        TextMetrics {
-            id: unitMetrics
-            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
-            font.family: VynFonts.vynFamilyRegular
-            text: root.unitText
-        }
-        background: Rectangle {
-            visible: root.allowsUnitChoosing
-            radius: VynUIQmlConstants.popupButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
-            color: unitButton.pressed || unitMenu.visible
-                   ? VynUIQmlConstants.controlColorForStyle(root.vynStyle, 1)
-                   : unitButton.hovered ? VynUIQmlConstants.controlTouchOverColorForStyle(root.vynStyle) : "transparent"
-        }
-        contentItem: Row {
-            leftPadding: VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
-            spacing: VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio)
-            VynLabel {
-                height: unitButton.height
+    Component {
+        id: unitButtonComponent
+        Basic.AbstractButton {
+            id: unitButton
+            objectName: "unitButton"
+            visible: root._showsUnit
+            enabled: root.allowsUnitChoosing && root.enabled
+            focusPolicy: Qt.NoFocus
+            readonly property real insetTBL: VynUIQmlConstants.textFieldUnitButtonInsetsTBL(root.vynControlSize, root.vynPixelRatio)
+            x: root.width - root.rightInset - width - insetTBL
+            y: insetTBL + root._border
+            height: root.height - 2 * (insetTBL + root._border)
+            readonly property real chevronSize: root.allowsUnitChoosing
+                                                ? Math.round(VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont) * 0.8) : 0
+            width: Math.ceil(unitMetrics.advanceWidth) + chevronSize
+                   + (root.allowsUnitChoosing ? VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio) : 0)
+                   + 2 * VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
+            TextMetrics {
+                id: unitMetrics
+                font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+                font.family: VynFonts.vynFamilyRegular
                 text: root.unitText
-                vynStyle: root.vynStyle
-                vynControlSize: root.vynControlSize
-                vynPixelRatioFont: root.vynPixelRatioFont
-                level: 1
             }
-            Image {
+            background: Rectangle {
                 visible: root.allowsUnitChoosing
-                anchors.verticalCenter: parent.verticalCenter
-                width: unitButton.chevronSize
-                height: width
-                sourceSize.width: width
-                sourceSize.height: height
-                source: root.allowsUnitChoosing ? VynImages.url("chevronUpDown", root.vynStyle) : ""
-                opacity: VynUIQmlConstants.offlineAlpha()
+                radius: VynUIQmlConstants.popupButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
+                color: unitButton.pressed || (unitButton.menu !== null && unitButton.menu.visible)
+                       ? VynUIQmlConstants.controlColorForStyle(root.vynStyle, 1)
+                       : unitButton.hovered ? VynUIQmlConstants.controlTouchOverColorForStyle(root.vynStyle) : "transparent"
             }
-        }
-        onClicked: unitMenu.popup(unitButton, 0, unitButton.height)
+            contentItem: Row {
+                leftPadding: VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
+                spacing: VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio)
+                VynLabel {
+                    height: unitButton.height
+                    text: root.unitText
+                    vynStyle: root.vynStyle
+                    vynControlSize: root.vynControlSize
+                    vynPixelRatioFont: root.vynPixelRatioFont
+                    level: 1
+                }
+                Image {
+                    visible: root.allowsUnitChoosing
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: unitButton.chevronSize
+                    height: width
+                    sourceSize.width: width
+                    sourceSize.height: height
+                    source: root.allowsUnitChoosing ? VynImages.url("chevronUpDown", root.vynStyle) : ""
+                    opacity: VynUIQmlConstants.offlineAlpha()
+                }
+            }
+            property Basic.Menu menu: null
+            onClicked: {
+                if (!menu)
+                    menu = unitMenuComponent.createObject(unitButton)
+                menu.popup(unitButton, 0, unitButton.height)
+            }
 
-        Basic.Menu {
-            id: unitMenu
-            Repeater {
-                model: root.allowsUnitChoosing ? root.unitModel : []
-                Basic.MenuItem {
-                    required property var modelData
-                    required property int index
-                    text: String(modelData)
-                    checkable: true
-                    checked: index === root.unitIndex
-                    onTriggered: root.unitClicked(index)
+            Component {
+                id: unitMenuComponent
+                Basic.Menu {
+                    Repeater {
+                        model: root.allowsUnitChoosing ? root.unitModel : []
+                        Basic.MenuItem {
+                            required property var modelData
+                            required property int index
+                            text: String(modelData)
+                            checkable: true
+                            checked: index === root.unitIndex
+                            onTriggered: root.unitClicked(index)
+                        }
+                    }
                 }
             }
         }
@@ -584,16 +631,24 @@ VynTextField {
         property string glyph
         property bool leftRounded: true
         property bool rightRounded: true
-        readonly property int glyphWidth: Math.round(glyphMetrics.advanceWidth)
+        readonly property int glyphWidth: glyphMetrics.font.pixelSize > 0
+                                          ? Math.round(glyphMetrics.advanceWidth(glyph)) : 0
+        // Minus: 1.9 x its glyph's width, rounded, raised by one to the glyph's parity; plus: the
+        // minus width raised likewise to the parity of its own glyph.
+        readonly property int minusWidth: {
+            const g = glyphMetrics.font.pixelSize > 0 ? Math.round(glyphMetrics.advanceWidth("\u2013")) : 0
+            const w = Math.round(1.9 * g)
+            return (w % 2) === (g % 2) ? w : w + 1
+        }
+        width: (minusWidth % 2) === (glyphWidth % 2) ? minusWidth : minusWidth + 1
         readonly property real radius: VynUIQmlConstants.bezelButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
         readonly property real borderWidth: Math.max(1, VynUIQmlConstants.bezelButtonBorder(root.vynPixelRatio))
         height: root.height
         focusPolicy: Qt.TabFocus
-        TextMetrics {
+        FontMetrics {
             id: glyphMetrics
             font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
             font.family: VynFonts.vynFamilyRegular
-            text: stepButton.glyph
         }
         // A rounded face clipped so that only the outer corners stay round; a separator line
         // closes the inner side.
@@ -645,38 +700,30 @@ VynTextField {
         }
     }
 
-    // Minus: 1.9 x its glyph's width, rounded, raised by one to the glyph's parity; plus: the
-    // minus width raised likewise to the parity of its own glyph.
-    readonly property int _minusWidth: {
-        const g = minusButton.glyphWidth
-        const w = Math.round(1.9 * g)
-        return (w % 2) === (g % 2) ? w : w + 1
+    Component {
+        id: minusComponent
+        StepButton {
+            id: minusButton
+            objectName: "minusButton"
+            glyph: "\u2013"
+            visible: root.hasMinus
+            x: root.width - root._buttonsRoom
+            leftRounded: true
+            rightRounded: !root.hasPlus
+            onClicked: root._click(false, minusButton)
+        }
     }
-    readonly property int _plusWidth: {
-        const g = plusButton.glyphWidth
-        return (_minusWidth % 2) === (g % 2) ? _minusWidth : _minusWidth + 1
-    }
-
-    StepButton {
-        id: minusButton
-        objectName: "minusButton"
-        glyph: "\u2013"
-        visible: root.hasMinus
-        width: root._minusWidth
-        x: root.width - root._buttonsRoom
-        leftRounded: true
-        rightRounded: !root.hasPlus
-        onClicked: root._click(false, minusButton)
-    }
-    StepButton {
-        id: plusButton
-        objectName: "plusButton"
-        glyph: "+"
-        visible: root.hasPlus
-        width: root._plusWidth
-        x: root.width - width
-        leftRounded: !root.hasMinus
-        rightRounded: true
-        onClicked: root._click(true, plusButton)
+    Component {
+        id: plusComponent
+        StepButton {
+            id: plusButton
+            objectName: "plusButton"
+            glyph: "+"
+            visible: root.hasPlus
+            x: root.width - width
+            leftRounded: !root.hasMinus
+            rightRounded: true
+            onClicked: root._click(true, plusButton)
+        }
     }
 }

@@ -68,10 +68,13 @@ Basic.TextField {
         text = Qt.binding(() => root._shownText())
     }
 
+    // One measurement per change of the text, font or room: the elided text while idle.
     function _shownText() {
         if (editing)
             return fullText
-        return textMetrics.elidedText
+        const room = Math.max(0, width - leftPadding - rightPadding)
+        return fontMetrics.font.pixelSize > 0 ? fontMetrics.elidedText(fullText, Qt.ElideRight, room)
+                                              : fullText
     }
 
     function _accept() {
@@ -103,7 +106,7 @@ Basic.TextField {
 
     implicitHeight: VynUIQmlConstants.textFieldHeight(vynControlSize, vynPixelRatio)
     implicitWidth: autoResize
-                   ? leftPadding + rightPadding + Math.ceil(measure.advanceWidth)
+                   ? leftPadding + rightPadding + Math.ceil(root.advanceWidth(root.editing ? root.text : root.fullText))
                      + 2 * VynUIQmlConstants.textFieldBorder(vynPixelRatio)
                    : 6 * implicitHeight
     topPadding: 0
@@ -123,18 +126,14 @@ Basic.TextField {
         radius: VynUIQmlConstants.popupButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
     }
 
-    TextMetrics {
-        id: measure
-        font: root.font
-        text: root.editing ? root.text : root.fullText
+    // The width of p_text in the field's font (measured only when asked, e.g. by autoResize).
+    function advanceWidth(p_text) {
+        return fontMetrics.font.pixelSize > 0 ? fontMetrics.advanceWidth(p_text) : 0
     }
 
-    TextMetrics {
-        id: textMetrics
+    FontMetrics {
+        id: fontMetrics
         font: root.font
-        text: root.fullText
-        elide: Text.ElideRight
-        elideWidth: Math.max(0, root.width - root.leftPadding - root.rightPadding)
     }
 
     onActiveFocusChanged: {
