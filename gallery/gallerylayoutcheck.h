@@ -14,11 +14,10 @@ class QQuickItem;
     and are left out.
 
     Faults: two controls whose rectangles overlap by at least a pixel in both directions
-    ("overlap"), a control given less than half of its implicit width or height
-    ("squeezed"; a wrapping text only by its height), and a control that reaches past a clipping
-   ancestor or past the area it can be scrolled to: the content of its nearest Flickable, or the
-   window when there is none
-    ("outside").
+    ("overlap"), a control given less than half of its implicit width or height ("squeezed";
+    a wrapping text only by its height), and a control that reaches past a clipping ancestor
+    or past the area it can be scrolled to, the content of its nearest Flickable or else the
+    window ("outside").
 */
 class GalleryLayoutCheck
 {
