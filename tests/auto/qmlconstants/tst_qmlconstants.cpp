@@ -32,9 +32,10 @@ constexpr VynControlSize ExtraLarge = VynViewUtils::VynControlSizeExtraLarge;
 /*
  * Calls a catalogue member by name through the meta-object, as QML does, so the
  * tests also check that the member is invokable with the expected argument
- * types. The answer is converted to double whatever the member's return type.
+ * types. The answer keeps the member's return type; an invalid QVariant means
+ * that no member takes these arguments.
  */
-double callMetric(const char* name, const QList<QVariant>& args)
+QVariant callMember(const char* name, const QList<QVariant>& args)
 {
     VynUIQmlConstants* object = VynUIQmlConstants::instance();
     const QMetaObject* meta = object->metaObject();
@@ -57,11 +58,18 @@ double callMetric(const char* name, const QList<QVariant>& args)
         for (int p = 0; p < converted.size(); ++p)
             a[p] = QGenericArgument(converted.at(p).typeName(), converted.at(p).constData());
         if (!method.invoke(object, Qt::DirectConnection, ret, a[0], a[1]))
-            return std::nan("");
-        return result.toDouble();
+            return QVariant();
+        return result;
     }
     qWarning("no invokable %s with %d arguments", name, int(args.size()));
-    return std::nan("");
+    return QVariant();
+}
+
+// callMember() converted to double whatever the member's return type; NaN when the call fails.
+double callMetric(const char* name, const QList<QVariant>& args)
+{
+    const QVariant result = callMember(name, args);
+    return result.isValid() ? result.toDouble() : std::nan("");
 }
 
 } // namespace
@@ -83,6 +91,8 @@ private slots:
     void outOfRange();
     void defaultArguments();
     void fontSizesAreInts();
+    void recordedMetrics_data();
+    void recordedMetrics();
 
     void genericHelpers_data();
     void genericHelpers();
@@ -354,6 +364,132 @@ void tst_QmlConstants::fontSizesAreInts()
     const int margin = meta->indexOfMethod("marginParent(VynViewUtils::VynControlSize,double)");
     QVERIFY(margin >= 0);
     QCOMPARE(meta->method(margin).returnMetaType(), QMetaType::fromType<double>());
+}
+
+void tst_QmlConstants::recordedMetrics_data()
+{
+    QTest::addColumn<QByteArray>("member");
+    QTest::addColumn<QVariantList>("arguments");
+    QTest::addColumn<QVariant>("expected");
+
+    // Answers recorded from the catalogue, a few members of every family: each size from
+    // one below Mini to one past ExtraLarge, at ratios 1 and 1.5 (and 0.3 for the members
+    // that take only a ratio), with the member's own return type.
+    enum Kind { Int, Double };
+    const auto answer = [](Kind kind, double value) {
+        return kind == Int ? QVariant(int(value)) : QVariant(value);
+    };
+    const auto sized = [&](const char* member, Kind kind, double ratio,
+                           std::initializer_list<double> values) {
+        int size = -1;
+        for (double value : values) {
+            QTest::addRow("%s/size %d/ratio %g", member, size, ratio)
+                << QByteArray(member)
+                << QVariantList{QVariant::fromValue(VynControlSize(size)), ratio}
+                << answer(kind, value);
+            ++size;
+        }
+    };
+    const auto scaled = [&](const char* member, Kind kind, std::initializer_list<double> values) {
+        const double ratios[] = {1.0, 1.5, 0.3};
+        const double* ratio = ratios;
+        for (double value : values) {
+            QTest::addRow("%s/ratio %g", member, *ratio)
+                << QByteArray(member) << QVariantList{*ratio} << answer(kind, value);
+            ++ratio;
+        }
+    };
+    const auto fixed = [&](const char* member, Kind kind, double value) {
+        QTest::addRow("%s", member) << QByteArray(member) << QVariantList() << answer(kind, value);
+    };
+
+    sized("fontSize", Int, 1.0, {9, 9, 11, 13, 15, 19, 19});
+    sized("fontSize", Int, 1.5, {14, 14, 17, 20, 23, 29, 29});
+    sized("fontSizePopupButton", Int, 1.0, {9, 9, 11, 13, 15, 15, 15});
+    sized("fontSizePopupButton", Int, 1.5, {14, 14, 17, 20, 23, 23, 23});
+    sized("vuMeterTickSecondaryFontSize", Int, 1.0, {7, 7, 8, 9, 10, 10, 10});
+    sized("vuMeterTickSecondaryFontSize", Int, 1.5, {11, 11, 12, 14, 15, 15, 15});
+    sized("marginParent", Double, 1.0, {4, 4, 8, 12, 16, 16, 16});
+    sized("marginParent", Double, 1.5, {6, 6, 12, 18, 24, 24, 24});
+    sized("popoverGenericWidth", Double, 1.0, {175, 175, 200, 240, 320, 320, 320});
+    sized("popoverGenericWidth", Double, 1.5, {263, 263, 300, 360, 480, 480, 480});
+    sized("bezelButtonTitleInsetsV", Double, 1.0, {1, 1, 2, 3, 4, 4, 4});
+    sized("bezelButtonTitleInsetsV", Double, 1.5, {2, 2, 3, 5, 6, 6, 6});
+    sized("textFieldHeight", Double, 1.0, {15, 15, 17, 21, 27, 27, 27});
+    sized("textFieldHeight", Double, 1.5, {23, 23, 26, 32, 41, 41, 41});
+    sized("bezelButtonCornerRadius", Double, 1.0, {2, 2, 2, 3, 5, 5, 5});
+    sized("bezelButtonCornerRadius", Double, 1.5, {3, 3, 3, 4.5, 7.5, 7.5, 7.5});
+    sized("flatButtonCornerRadius", Double, 1.0, {3, 3, 3.5, 4, 5, 6, 6});
+    sized("flatButtonCornerRadius", Double, 1.5, {4.5, 4.5, 5.25, 6, 7.5, 9, 9});
+    sized("viewListButtonTitleInsetsH", Double, 1.0, {3, 3, 16, 7, 9, 9, 9});
+    sized("viewListButtonTitleInsetsH", Double, 1.5, {5, 5, 24, 11, 14, 14, 14});
+    sized("textFieldLabelTextSpacing", Double, 1.0, {3, 3, 5, 4, 6, 6, 6});
+    sized("textFieldLabelTextSpacing", Double, 1.5, {5, 5, 8, 6, 9, 9, 9});
+    sized("vuMeterTickSecondaryOffset", Double, 1.0, {1, 1, 1, 1, 2, 2, 2});
+    sized("vuMeterTickSecondaryOffset", Double, 1.5, {1, 1, 1, 2, 3, 3, 3});
+    sized("ledHeight", Double, 1.0, {9, 9, 11, 13, 15, 20, 20});
+    sized("ledHeight", Double, 1.5, {14, 14, 17, 20, 23, 30, 30});
+    sized("flatButtonHeight", Double, 1.0, {16, 16, 19, 24, 29, 36, 36});
+    sized("flatButtonHeight", Double, 1.5, {24, 24, 29, 36, 44, 54, 54});
+    sized("sliderInsetsH", Double, 1.0, {0, 0, 0, 0, 0, 0, 0});
+    sized("sliderInsetsH", Double, 1.5, {0, 0, 0, 0, 0, 0, 0});
+    sized("marginWindow", Double, 1.0, {10, 10, 10, 20, 20, 20, 20});
+    sized("marginWindow", Double, 1.5, {15, 15, 15, 30, 30, 30, 30});
+    sized("marginPopover", Double, 1.0, {5, 5, 5, 10, 20, 20, 20});
+    sized("marginPopover", Double, 1.5, {8, 8, 8, 15, 30, 30, 30});
+    sized("eqTypeIconHeight", Double, 1.0, {22, 22, 22, 27, 54, 54, 54});
+    sized("eqTypeIconHeight", Double, 1.5, {33, 33, 33, 41, 81, 81, 81});
+    sized("tableViewRowHeight", Double, 1.0, {20, 20, 20, 20, 40, 40, 40});
+    sized("tableViewRowHeight", Double, 1.5, {30, 30, 30, 30, 60, 60, 60});
+    sized("fontSizeTabButton", Int, 1.0, {15, 15, 15, 15, 15, 15, 15});
+    sized("fontSizeTabButton", Int, 1.5, {23, 23, 23, 23, 23, 23, 23});
+    sized("circularProgressThickness", Double, 1.0, {2, 2, 2, 2, 2, 2, 2});
+    sized("circularProgressThickness", Double, 1.5, {3, 3, 3, 3, 3, 3, 3});
+    scaled("zoneIconShadowBlur", Double, {3, 5, 1});
+    scaled("popoverShadowOffsetH", Double, {1, 2, 0});
+    scaled("fontSizeTitlePrimary", Int, {27, 41, 8});
+    scaled("fontSizeLogYLabel", Int, {9, 14, 3});
+    scaled("viewListHeaderMarginBottom", Double, {6, 9, 2});
+    scaled("borderViewCornerRadius", Double, {7, 10.5, 2.1});
+    scaled("popoverCornerRadius", Double, {7, 10.5, 2.1});
+    scaled("ledBorder", Double, {1, 1, 0});
+    scaled("ledGlowRadius", Double, {6, 9, 1.8});
+    scaled("badgeNewHeight", Double, {9, 14, 3});
+    scaled("tableViewBorder", Double, {1, 1, 0});
+    scaled("recordButtonHeight", Double, {37, 56, 11});
+    scaled("textFieldPanningIconHeightMin", Double, {13, 20, 4});
+    scaled("sliderMaxAnglePerSecond", Double, {150, 225, 45});
+    scaled("vuMeterMarginHMin", Double, {2, 2, 0});
+    scaled("vuMeterGlowRadius", Double, {6, 9, 1.8});
+    scaled("eqThumbnailStandardWidth", Double, {92, 138, 28});
+    scaled("graphThumbnailCurveWidth", Double, {2, 2, 0});
+    scaled("graphThumbPressedFontSize", Double, {17, 26, 5});
+    scaled("patchViewLineWidth", Double, {2, 2, 0});
+    scaled("logGraphAxisShadowOffset", Double, {-1, -2, 0});
+    scaled("logGraphBubbleRadius", Double, {10, 15, 3});
+    scaled("logGraphCellDefaultHeight", Double, {161, 242, 48});
+    scaled("imageAdditionalButtonHeightMobile", Double, {37, 56, 11});
+    scaled("imageInMenuHeightMobile", Double, {24, 36, 7});
+    scaled("minControlAmpInHeightOrla", Int, {100, 150, 30});
+    scaled("minSearchFieldWidthOrlaLibrary", Int, {120, 180, 36});
+    fixed("colorIconCornerRadiusRatio", Double, 0.2);
+    fixed("zoneIconKernRatio", Double, -0.2);
+    fixed("typeThumbnailSizeRatio", Double, 1.88);
+    fixed("windowWidthOrlaMain", Int, 1240);
+    fixed("minWindowHeightOrlaLibrary", Int, 200);
+    fixed("popoverHeightOrlaScreenCompIE", Int, 360);
+}
+
+void tst_QmlConstants::recordedMetrics()
+{
+    QFETCH(QByteArray, member);
+    QFETCH(QVariantList, arguments);
+    QFETCH(QVariant, expected);
+
+    const QVariant actual = callMember(member, arguments);
+    QVERIFY2(actual.isValid(), member);
+    QCOMPARE(actual.metaType(), expected.metaType());
+    QCOMPARE(actual.toDouble(), expected.toDouble());
 }
 
 void tst_QmlConstants::genericHelpers_data()
