@@ -256,7 +256,7 @@ void VynUIQmlConstants::setNativeTitleBarColorForStyle(
 #define VYNUI_SCALED_METRIC(type, name, scaling, base)                                             \
     type VynUIQmlConstants::name(double p_ratio)                                                   \
     {                                                                                              \
-        return scaled<type, Scaling::scaling>((base)*p_ratio);                                     \
+        return scaled<type, Scaling::scaling>(double(base) * p_ratio);                             \
     }
 #define VYNUI_FIXED_METRIC(type, name, value)                                                      \
     type VynUIQmlConstants::name()                                                                 \
