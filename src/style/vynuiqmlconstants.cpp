@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 
@@ -113,6 +114,20 @@ template <typename T, std::size_t N> const T& clampedEntry(const T (&table)[N], 
 int meterLevel(int index)
 {
     return int(std::min(uint(index), uint(VynVUMeterConstants::kVynVUMeterOnColorsCount - 1)));
+}
+
+/*
+ * The orientation a caller passed, Qt::Vertical or Qt::Horizontal for any other integer. QML
+ * stores whatever integer a document gives where an enumeration is expected; loading a value
+ * outside Qt::Orientation's range as a Qt::Orientation is undefined, so the storage behind the
+ * reference is read as the integer it holds.
+ */
+Qt::Orientation orientationOf(const Qt::Orientation& orientation)
+{
+    std::underlying_type_t<Qt::Orientation> value;
+    static_assert(sizeof(value) == sizeof(orientation));
+    std::memcpy(&value, &orientation, sizeof(value));
+    return value == Qt::Vertical ? Qt::Vertical : Qt::Horizontal;
 }
 
 bool isSuggestionIndex(int index)
@@ -410,16 +425,17 @@ Qt::Orientation VynUIQmlConstants::alignmentsViewVynSideOrientation(VynViewUtils
     return VynViewUtils::vynSideOrientation(p_side);
 }
 
-Qt::Orientation VynUIQmlConstants::alignmentsViewVynOrientationOther(Qt::Orientation p_orientation)
+Qt::Orientation
+VynUIQmlConstants::alignmentsViewVynOrientationOther(const Qt::Orientation& p_orientation)
 {
-    return VynViewUtils::vynOrientationOther(p_orientation);
+    return VynViewUtils::vynOrientationOther(orientationOf(p_orientation));
 }
 
 VynViewUtils::VynSideBounds
 VynUIQmlConstants::alignmentsViewVynSideBoundsForRect(const QRectF& p_rect,
-                                                      Qt::Orientation p_orientation)
+                                                      const Qt::Orientation& p_orientation)
 {
-    return VynViewUtils::vynSideBoundsForRect(p_rect, p_orientation);
+    return VynViewUtils::vynSideBoundsForRect(p_rect, orientationOf(p_orientation));
 }
 
 double
@@ -429,10 +445,11 @@ VynUIQmlConstants::alignmentsViewQRectFOrthogonalDimensionForSide(const QRectF& 
     return VynViewUtils::qRectFOrthogonalDimensionForSide(p_rect, p_side);
 }
 
-double VynUIQmlConstants::alignmentsViewQRectFSizeAlongOrientation(const QRectF& p_rect,
-                                                                   Qt::Orientation p_orientation)
+double
+VynUIQmlConstants::alignmentsViewQRectFSizeAlongOrientation(const QRectF& p_rect,
+                                                            const Qt::Orientation& p_orientation)
 {
-    return VynViewUtils::qRectFSizeAlongOrientation(p_rect, p_orientation);
+    return VynViewUtils::qRectFSizeAlongOrientation(p_rect, orientationOf(p_orientation));
 }
 
 QRectF VynUIQmlConstants::alignmentsViewRoundedQRectF(const QRectF& p_rect)
@@ -443,10 +460,11 @@ QRectF VynUIQmlConstants::alignmentsViewRoundedQRectF(const QRectF& p_rect)
 
 QRectF VynUIQmlConstants::alignmentsViewQRectFForLine(double p_start, double p_end,
                                                       double p_position,
-                                                      Qt::Orientation p_orientation,
+                                                      const Qt::Orientation& p_orientation,
                                                       double p_thickness)
 {
-    return VynViewUtils::qRectFForLine(p_start, p_end, p_position, p_orientation, p_thickness);
+    return VynViewUtils::qRectFForLine(p_start, p_end, p_position, orientationOf(p_orientation),
+                                       p_thickness);
 }
 
 VynViewUtils::VynCorner VynUIQmlConstants::cornersForSides(VynViewUtils::VynSide p_sides)

@@ -50,6 +50,17 @@ class QQmlEngine;
     forms as overloads, so fontSize() is 13 and fontSize(VynControlSizeMini) 9.
     A style can be left out only where every argument after it can be too.
 
+    Enumerations from QML. QML passes any integer where a member takes an
+    enumeration, and every member answers for every integer. A control size
+    reads as described below; a style at or below VynStyleLight reads as
+    Light and one above it as Dark; an orientation other than Qt::Vertical
+    (0, 3, 7, ...) reads as Qt::Horizontal; a band type that is not suggested,
+    a style preference other than Light or Dark, and a side that is not one
+    of VynViewUtils::VynSide's single values get the answer each member
+    documents for them. Orientations are taken by reference so that the
+    integer QML stores is read as an integer: an out-of-range value is never
+    loaded as a Qt::Orientation.
+
     Sizes outside a table. Every control-size row has an entry per size, Mini
     to ExtraLarge; a size below Mini reads the Mini entry and a size past
     ExtraLarge the ExtraLarge entry. An index past a fixed list is clamped the
@@ -115,8 +126,8 @@ public:
     /*!
         Asks the platform for a dark (VynStylePrefDark) or light (VynStylePrefLight)
         native title bar for \a p_window; VynStylePrefSystem leaves the title bar
-        alone, and a null window is ignored. The window's native handle is
-        created when it does not exist yet.
+        alone, as does any other integer, and a null window is ignored. The window's native handle
+       is created when it does not exist yet.
     */
     Q_INVOKABLE static void
     setNativeTitleBarColorForStyle(QWindow* p_window,
@@ -207,7 +218,8 @@ public:
 
     //! The band type of suggestion \a p_index; VynEQTypeNone (65535) outside 0 to 5.
     Q_INVOKABLE static VynEQConstants::VynEQBandType eqBandTypeForIndex(int p_index);
-    //! The first suggestion of band type \a p_type, or -1.
+    //! The first suggestion of band type \a p_type, or -1 (also for any integer that is not a
+    //! type).
     Q_INVOKABLE static int eqIndexForBandType(VynEQConstants::VynEQBandType p_type);
     //! The name of suggestion \a p_index; an empty string outside 0 to 5.
     Q_INVOKABLE static QString eqBandTypeStringForIndex(int p_index);
@@ -215,7 +227,7 @@ public:
         The URL of the button image of band type \a p_type: "btn<name>.png", or
         "btn<name>48.png" for a content height of 50 or less, resolved by
         VynFileUtils::pathForImageNamed(). An empty string for a type that is
-        not suggested.
+        not suggested, or for any integer that is not a type.
     */
     Q_INVOKABLE static QString imageUrlForEQBandType(VynEQConstants::VynEQBandType p_type,
                                                      double p_contentHeight);
@@ -241,24 +253,48 @@ public:
     Q_INVOKABLE static bool qRectFContainsQPoint(const QRectF& p_rect, const QPointF& p_point);
     //! QRectF::united(): the bounding rectangle of both; an empty one is ignored.
     Q_INVOKABLE static QRectF qRectFUnited(const QRectF& p_rect1, const QRectF& p_rect2);
+    /*!
+        The orientation of the line an edge lies on: Qt::Vertical for VynSideLeft,
+        VynSideRight and VynSideHorizontalCenter, Qt::Horizontal for any other
+        value, combinations and unnamed integers included.
+    */
     Q_INVOKABLE static Qt::Orientation
     alignmentsViewVynSideOrientation(VynViewUtils::VynSide p_side);
+    //! Qt::Horizontal for Qt::Vertical, Qt::Vertical for any other value.
     Q_INVOKABLE static Qt::Orientation
-    alignmentsViewVynOrientationOther(Qt::Orientation p_orientation);
+    alignmentsViewVynOrientationOther(const Qt::Orientation& p_orientation);
+    //! The (min, max) extent of \a p_rect along y for Qt::Vertical, along x for any other value.
     Q_INVOKABLE static VynViewUtils::VynSideBounds
-    alignmentsViewVynSideBoundsForRect(const QRectF& p_rect, Qt::Orientation p_orientation);
+    alignmentsViewVynSideBoundsForRect(const QRectF& p_rect, const Qt::Orientation& p_orientation);
+    /*!
+        The coordinate of edge \a p_side of \a p_rect: x for VynSideLeft, y for
+        VynSideTop, x + width for VynSideRight, y + height for VynSideBottom,
+        y + height / 2 for VynSideVerticalCenter, and x + width / 2 for
+        VynSideHorizontalCenter and any other value.
+    */
     Q_INVOKABLE static double
     alignmentsViewQRectFOrthogonalDimensionForSide(const QRectF& p_rect,
                                                    VynViewUtils::VynSide p_side);
+    //! The height of \a p_rect for Qt::Vertical, its width for any other value.
     Q_INVOKABLE static double
-    alignmentsViewQRectFSizeAlongOrientation(const QRectF& p_rect, Qt::Orientation p_orientation);
+    alignmentsViewQRectFSizeAlongOrientation(const QRectF& p_rect,
+                                             const Qt::Orientation& p_orientation);
     //! A rounded copy of \a p_rect (see VynViewUtils::roundedQRectF()).
     Q_INVOKABLE static QRectF alignmentsViewRoundedQRectF(const QRectF& p_rect);
+    /*!
+        The rectangle of a line from \a p_start to \a p_end at \a p_position,
+        \a p_thickness thick: a vertical line for Qt::Vertical, a horizontal
+        one for any other value.
+    */
     Q_INVOKABLE static QRectF alignmentsViewQRectFForLine(double p_start, double p_end,
                                                           double p_position,
-                                                          Qt::Orientation p_orientation,
+                                                          const Qt::Orientation& p_orientation,
                                                           double p_thickness);
-    //! \a p_sides may combine edges (VynSideLeft | VynSideTop).
+    /*!
+        The corners between the edges \a p_sides combines (VynSideLeft | VynSideTop
+        gives VynCornerTopLeft). Only the Left, Top, Right and Bottom bits count, so
+        any integer has an answer: -1 has all four, and gives every corner.
+    */
     Q_INVOKABLE static VynViewUtils::VynCorner cornersForSides(VynViewUtils::VynSide p_sides);
 
     // Level meters.

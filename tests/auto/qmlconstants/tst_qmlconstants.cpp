@@ -16,6 +16,7 @@
 #include <QWindow>
 
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <memory>
 
@@ -28,6 +29,20 @@ constexpr VynControlSize Small = VynViewUtils::VynControlSizeSmall;
 constexpr VynControlSize Regular = VynViewUtils::VynControlSizeRegular;
 constexpr VynControlSize Large = VynViewUtils::VynControlSizeLarge;
 constexpr VynControlSize ExtraLarge = VynViewUtils::VynControlSizeExtraLarge;
+
+// Calls \a method with \a args, which hold the method's own parameter types.
+QVariant invokeWith(const QMetaMethod& method, const QList<QVariant>& args)
+{
+    QVariant result(method.returnMetaType(), nullptr);
+    QGenericReturnArgument ret(method.returnMetaType().name(), result.data());
+    QGenericArgument a[10];
+    for (int p = 0; p < args.size(); ++p)
+        a[p] = QGenericArgument(method.parameterMetaType(p).name(), args.at(p).constData());
+    if (!method.invoke(VynUIQmlConstants::instance(), Qt::DirectConnection, ret, a[0], a[1], a[2],
+                       a[3], a[4], a[5], a[6], a[7], a[8], a[9]))
+        return QVariant();
+    return method.returnMetaType() == QMetaType::fromType<void>() ? QVariant(true) : result;
+}
 
 /*
  * Calls a catalogue member by name through the meta-object, as QML does, so the
@@ -52,14 +67,7 @@ QVariant callMember(const char* name, const QList<QVariant>& args)
         }
         if (!ok)
             continue;
-        QVariant result(method.returnMetaType(), nullptr);
-        QGenericReturnArgument ret(method.returnMetaType().name(), result.data());
-        QGenericArgument a[2];
-        for (int p = 0; p < converted.size(); ++p)
-            a[p] = QGenericArgument(converted.at(p).typeName(), converted.at(p).constData());
-        if (!method.invoke(object, Qt::DirectConnection, ret, a[0], a[1]))
-            return QVariant();
-        return result;
+        return invokeWith(method, converted);
     }
     qWarning("no invokable %s with %d arguments", name, int(args.size()));
     return QVariant();
@@ -70,6 +78,81 @@ double callMetric(const char* name, const QList<QVariant>& args)
 {
     const QVariant result = callMember(name, args);
     return result.isValid() ? result.toDouble() : std::nan("");
+}
+
+// A value of enumeration \a type holding \a raw, named or not, as QML stores an integer
+// where a member takes an enumeration.
+QVariant enumValue(QMetaType type, int raw)
+{
+    QVariant value(type, nullptr);
+    Q_ASSERT(type.sizeOf() == int(sizeof(raw)));
+    std::memcpy(value.data(), &raw, sizeof(raw));
+    return value;
+}
+
+// The argument a call passes for a parameter that is not under test.
+QVariant neutralArgument(QMetaType type)
+{
+    if (type.flags() & QMetaType::IsEnumeration)
+        return enumValue(type, 1);
+    if (type == QMetaType::fromType<QColor>())
+        return QColor(200, 60, 30, 128);
+    if (type == QMetaType::fromType<QRectF>())
+        return QRectF(1, 2, 30, 40);
+    if (type == QMetaType::fromType<QList<double>>())
+        return QVariant::fromValue(QList<double>{0.0, 0.5, 1.0});
+    if (type == QMetaType::fromType<QWindow*>())
+        return QVariant::fromValue<QWindow*>(nullptr);
+    QVariant value(1);
+    return value.convert(type) ? value : QVariant();
+}
+
+bool sameAnswer(const QVariant& a, const QVariant& b)
+{
+    if (a.metaType() == QMetaType::fromType<VynViewUtils::VynSideBounds>()) {
+        const auto x = a.value<VynViewUtils::VynSideBounds>();
+        const auto y = b.value<VynViewUtils::VynSideBounds>();
+        return x.min == y.min && x.max == y.max;
+    }
+    return a.isValid() && a == b;
+}
+
+/*
+ * The named values of the enumerations the catalogue takes, and for any other integer the
+ * named value whose answer the catalogue gives for it.
+ */
+struct EnumRule
+{
+    const char* type;
+    QList<int> named;
+    int (*equivalent)(int raw, const QByteArray& member);
+};
+
+const EnumRule kEnumRules[] = {
+    {"VynViewUtils::VynControlSize",
+     {0, 1, 2, 3, 4},
+     [](int raw, const QByteArray&) { return raw < 0 ? 0 : 4; }},
+    {"VynColorUtils::VynStyle", {0, 1}, [](int raw, const QByteArray&) { return raw < 0 ? 0 : 1; }},
+    {"Qt::Orientation", {1, 2}, [](int, const QByteArray&) { return int(Qt::Horizontal); }},
+    {"VynViewUtils::VynSide",
+     {0, 1, 2, 4, 8, 15, 16, 32},
+     [](int raw, const QByteArray& member) {
+         // Corners read the four edge bits; single-edge members answer as for no edge.
+         return member == "cornersForSides" ? raw & 15 : 0;
+     }},
+    {"VynEQConstants::VynEQBandType",
+     {0, 1, 2, 3, 4, 5, 6, 7, 65535},
+     [](int, const QByteArray&) { return 65535; }},
+    {"VynColorUtils::VynStylePreference", {0, 1, 2}, [](int, const QByteArray&) { return 2; }},
+};
+
+const EnumRule* enumRule(QMetaType type)
+{
+    for (const EnumRule& rule : kEnumRules) {
+        if (qstrcmp(type.name(), rule.type) == 0)
+            return &rule;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -112,6 +195,10 @@ private slots:
     void mimeTypes();
     void geometryForwarders();
     void nativeTitleBar();
+    void enumArgumentsOutOfRange_data();
+    void enumArgumentsOutOfRange();
+    void enumArgumentAnswers_data();
+    void enumArgumentAnswers();
 
     void tickMarkChoice_data();
     void tickMarkChoice();
@@ -792,6 +879,134 @@ void tst_QmlConstants::nativeTitleBar()
     QCOMPARE(QtCommons::titlebarAppearance(id), QtCommons::TitlebarAppearance::Dark);
     VynUIQmlConstants::setNativeTitleBarColorForStyle(&window, VynColorUtils::VynStylePrefLight);
     QCOMPARE(QtCommons::titlebarAppearance(id), QtCommons::TitlebarAppearance::Light);
+
+    // Any other integer leaves the title bar alone, as VynStylePrefSystem does.
+    const QMetaMethod setter = VynUIQmlConstants::staticMetaObject.method(
+        VynUIQmlConstants::staticMetaObject.indexOfMethod(
+            "setNativeTitleBarColorForStyle(QWindow*,VynColorUtils::VynStylePreference)"));
+    for (int raw : {-1, 3, std::numeric_limits<int>::max()}) {
+        QVERIFY(
+            invokeWith(setter,
+                       {QVariant::fromValue<QWindow*>(&window),
+                        enumValue(QMetaType::fromType<VynColorUtils::VynStylePreference>(), raw)})
+                .isValid());
+        QCOMPARE(QtCommons::titlebarAppearance(id), QtCommons::TitlebarAppearance::Light);
+    }
+}
+
+void tst_QmlConstants::enumArgumentsOutOfRange_data()
+{
+    QTest::addColumn<int>("methodIndex");
+    QTest::addColumn<int>("parameter");
+    QTest::addColumn<int>("raw");
+    QTest::addColumn<int>("equivalent");
+
+    // Every member that takes an enumeration, every enumeration parameter, with integers
+    // the enumeration does not name: each gives the answer of its documented named value.
+    const int raws[] = {std::numeric_limits<int>::min(), -1, 0, 3, 5, 7, 64, 1000,
+                        std::numeric_limits<int>::max()};
+    const QMetaObject* meta = &VynUIQmlConstants::staticMetaObject;
+    QSet<QByteArray> types;
+    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
+        const QMetaMethod method = meta->method(i);
+        for (int p = 0; p < method.parameterCount(); ++p) {
+            const QMetaType type = method.parameterMetaType(p);
+            if (!(type.flags() & QMetaType::IsEnumeration))
+                continue;
+            const EnumRule* rule = enumRule(type);
+            QVERIFY2(rule, type.name());
+            types.insert(type.name());
+            for (int raw : raws) {
+                if (rule->named.contains(raw))
+                    continue;
+                QTest::addRow("%s/arg %d/%d", method.methodSignature().constData(), p, raw)
+                    << i << p << raw << rule->equivalent(raw, method.name());
+            }
+        }
+    }
+    QCOMPARE(types.size(), int(std::size(kEnumRules)));
+}
+
+void tst_QmlConstants::enumArgumentsOutOfRange()
+{
+    QFETCH(int, methodIndex);
+    QFETCH(int, parameter);
+    QFETCH(int, raw);
+    QFETCH(int, equivalent);
+
+    const QMetaMethod method = VynUIQmlConstants::staticMetaObject.method(methodIndex);
+    QList<QVariant> args;
+    for (int p = 0; p < method.parameterCount(); ++p)
+        args.append(neutralArgument(method.parameterMetaType(p)));
+    const QMetaType type = method.parameterMetaType(parameter);
+
+    args[parameter] = enumValue(type, raw);
+    const QVariant answer = invokeWith(method, args);
+    args[parameter] = enumValue(type, equivalent);
+    const QVariant expected = invokeWith(method, args);
+    QVERIFY(expected.isValid());
+    QVERIFY2(sameAnswer(answer, expected), qPrintable(QDebug::toString(answer)));
+}
+
+void tst_QmlConstants::enumArgumentAnswers_data()
+{
+    QTest::addColumn<QByteArray>("member");
+    QTest::addColumn<QVariantList>("arguments");
+    QTest::addColumn<QVariant>("expected");
+
+    const auto orientation = [](int raw) {
+        return enumValue(QMetaType::fromType<Qt::Orientation>(), raw);
+    };
+    const auto side = [](int raw) {
+        return enumValue(QMetaType::fromType<VynViewUtils::VynSide>(), raw);
+    };
+    const QRectF rect(1, 2, 30, 40);
+    for (int raw : {0, 3, 7, -1, std::numeric_limits<int>::min()}) {
+        QTest::addRow("other orientation of %d", raw)
+            << QByteArray("alignmentsViewVynOrientationOther") << QVariantList{orientation(raw)}
+            << QVariant::fromValue(Qt::Vertical);
+        QTest::addRow("size along %d", raw)
+            << QByteArray("alignmentsViewQRectFSizeAlongOrientation")
+            << QVariantList{rect, orientation(raw)} << QVariant(30.0);
+        QTest::addRow("line along %d", raw)
+            << QByteArray("alignmentsViewQRectFForLine")
+            << QVariantList{0.0, 10.0, 5.0, orientation(raw), 2.0} << QVariant(QRectF(0, 4, 10, 2));
+    }
+    QTest::newRow("other orientation of Vertical")
+        << QByteArray("alignmentsViewVynOrientationOther") << QVariantList{orientation(2)}
+        << QVariant::fromValue(Qt::Horizontal);
+    QTest::newRow("side orientation of -1")
+        << QByteArray("alignmentsViewVynSideOrientation") << QVariantList{side(-1)}
+        << QVariant::fromValue(Qt::Horizontal);
+    QTest::newRow("edge 64 reads the horizontal centre")
+        << QByteArray("alignmentsViewQRectFOrthogonalDimensionForSide")
+        << QVariantList{rect, side(64)} << QVariant(16.0);
+    QTest::newRow("corners of -1") << QByteArray("cornersForSides") << QVariantList{side(-1)}
+                                   << QVariant::fromValue(VynViewUtils::VynCornerAllCorners);
+    QTest::newRow("corners of Left|Top|64")
+        << QByteArray("cornersForSides") << QVariantList{side(1 | 2 | 64)}
+        << QVariant::fromValue(VynViewUtils::VynCornerTopLeft);
+    QTest::newRow("index of band type -3")
+        << QByteArray("eqIndexForBandType")
+        << QVariantList{enumValue(QMetaType::fromType<VynEQConstants::VynEQBandType>(), -3)}
+        << QVariant(-1);
+    QTest::newRow("font size past every size")
+        << QByteArray("fontSize")
+        << QVariantList{enumValue(QMetaType::fromType<VynControlSize>(),
+                                  std::numeric_limits<int>::max()),
+                        1.0}
+        << QVariant(19);
+}
+
+void tst_QmlConstants::enumArgumentAnswers()
+{
+    QFETCH(QByteArray, member);
+    QFETCH(QVariantList, arguments);
+    QFETCH(QVariant, expected);
+
+    const QVariant answer = callMember(member, arguments);
+    QCOMPARE(answer.metaType(), expected.metaType());
+    QCOMPARE(answer, expected);
 }
 
 void tst_QmlConstants::tickMarkChoice_data()
