@@ -30,6 +30,16 @@ constexpr VynControlSize Regular = VynViewUtils::VynControlSizeRegular;
 constexpr VynControlSize Large = VynViewUtils::VynControlSizeLarge;
 constexpr VynControlSize ExtraLarge = VynViewUtils::VynControlSizeExtraLarge;
 
+// A value of enumeration \a type holding \a raw, named or not, as QML stores an integer
+// where a member takes an enumeration.
+QVariant enumValue(QMetaType type, int raw)
+{
+    QVariant value(type, nullptr);
+    Q_ASSERT(type.sizeOf() == int(sizeof(raw)));
+    std::memcpy(value.data(), &raw, sizeof(raw));
+    return value;
+}
+
 // Calls \a method with \a args, which hold the method's own parameter types.
 QVariant invokeWith(const QMetaMethod& method, const QList<QVariant>& args)
 {
@@ -47,8 +57,11 @@ QVariant invokeWith(const QMetaMethod& method, const QList<QVariant>& args)
 /*
  * Calls a catalogue member by name through the meta-object, as QML does, so the
  * tests also check that the member is invokable with the expected argument
- * types. The answer keeps the member's return type; an invalid QVariant means
- * that no member takes these arguments.
+ * types. An int given for an enumeration is stored as QML stores it, whatever
+ * its value; such a value is never copied as the enumeration, which would be
+ * undefined for a value the enumeration cannot hold. The answer keeps the
+ * member's return type; an invalid QVariant means that no member takes these
+ * arguments.
  */
 QVariant callMember(const char* name, const QList<QVariant>& args)
 {
@@ -59,8 +72,15 @@ QVariant callMember(const char* name, const QList<QVariant>& args)
         if (method.name() != name || method.parameterCount() != args.size())
             continue;
         QList<QVariant> converted;
+        converted.reserve(args.size());
         bool ok = true;
         for (int p = 0; p < args.size(); ++p) {
+            const QMetaType type = method.parameterMetaType(p);
+            if ((type.flags() & QMetaType::IsEnumeration) &&
+                args.at(p).typeId() == QMetaType::Int) {
+                converted.append(enumValue(type, args.at(p).toInt()));
+                continue;
+            }
             QVariant arg = args.at(p);
             ok = ok && arg.convert(method.parameterMetaType(p));
             converted.append(arg);
@@ -78,16 +98,6 @@ double callMetric(const char* name, const QList<QVariant>& args)
 {
     const QVariant result = callMember(name, args);
     return result.isValid() ? result.toDouble() : std::nan("");
-}
-
-// A value of enumeration \a type holding \a raw, named or not, as QML stores an integer
-// where a member takes an enumeration.
-QVariant enumValue(QMetaType type, int raw)
-{
-    QVariant value(type, nullptr);
-    Q_ASSERT(type.sizeOf() == int(sizeof(raw)));
-    std::memcpy(value.data(), &raw, sizeof(raw));
-    return value;
 }
 
 // The argument a call passes for a parameter that is not under test.
@@ -954,47 +964,37 @@ void tst_QmlConstants::enumArgumentAnswers_data()
     QTest::addColumn<QVariantList>("arguments");
     QTest::addColumn<QVariant>("expected");
 
-    const auto orientation = [](int raw) {
-        return enumValue(QMetaType::fromType<Qt::Orientation>(), raw);
-    };
-    const auto side = [](int raw) {
-        return enumValue(QMetaType::fromType<VynViewUtils::VynSide>(), raw);
-    };
+    // Integers stand for the enumeration arguments, as in a document.
     const QRectF rect(1, 2, 30, 40);
     for (int raw : {0, 3, 7, -1, std::numeric_limits<int>::min()}) {
         QTest::addRow("other orientation of %d", raw)
-            << QByteArray("alignmentsViewVynOrientationOther") << QVariantList{orientation(raw)}
+            << QByteArray("alignmentsViewVynOrientationOther") << QVariantList{raw}
             << QVariant::fromValue(Qt::Vertical);
         QTest::addRow("size along %d", raw)
-            << QByteArray("alignmentsViewQRectFSizeAlongOrientation")
-            << QVariantList{rect, orientation(raw)} << QVariant(30.0);
+            << QByteArray("alignmentsViewQRectFSizeAlongOrientation") << QVariantList{rect, raw}
+            << QVariant(30.0);
         QTest::addRow("line along %d", raw)
-            << QByteArray("alignmentsViewQRectFForLine")
-            << QVariantList{0.0, 10.0, 5.0, orientation(raw), 2.0} << QVariant(QRectF(0, 4, 10, 2));
+            << QByteArray("alignmentsViewQRectFForLine") << QVariantList{0.0, 10.0, 5.0, raw, 2.0}
+            << QVariant(QRectF(0, 4, 10, 2));
     }
     QTest::newRow("other orientation of Vertical")
-        << QByteArray("alignmentsViewVynOrientationOther") << QVariantList{orientation(2)}
+        << QByteArray("alignmentsViewVynOrientationOther") << QVariantList{2}
         << QVariant::fromValue(Qt::Horizontal);
     QTest::newRow("side orientation of -1")
-        << QByteArray("alignmentsViewVynSideOrientation") << QVariantList{side(-1)}
+        << QByteArray("alignmentsViewVynSideOrientation") << QVariantList{-1}
         << QVariant::fromValue(Qt::Horizontal);
     QTest::newRow("edge 64 reads the horizontal centre")
-        << QByteArray("alignmentsViewQRectFOrthogonalDimensionForSide")
-        << QVariantList{rect, side(64)} << QVariant(16.0);
-    QTest::newRow("corners of -1") << QByteArray("cornersForSides") << QVariantList{side(-1)}
+        << QByteArray("alignmentsViewQRectFOrthogonalDimensionForSide") << QVariantList{rect, 64}
+        << QVariant(16.0);
+    QTest::newRow("corners of -1") << QByteArray("cornersForSides") << QVariantList{-1}
                                    << QVariant::fromValue(VynViewUtils::VynCornerAllCorners);
     QTest::newRow("corners of Left|Top|64")
-        << QByteArray("cornersForSides") << QVariantList{side(1 | 2 | 64)}
+        << QByteArray("cornersForSides") << QVariantList{1 | 2 | 64}
         << QVariant::fromValue(VynViewUtils::VynCornerTopLeft);
     QTest::newRow("index of band type -3")
-        << QByteArray("eqIndexForBandType")
-        << QVariantList{enumValue(QMetaType::fromType<VynEQConstants::VynEQBandType>(), -3)}
-        << QVariant(-1);
+        << QByteArray("eqIndexForBandType") << QVariantList{-3} << QVariant(-1);
     QTest::newRow("font size past every size")
-        << QByteArray("fontSize")
-        << QVariantList{enumValue(QMetaType::fromType<VynControlSize>(),
-                                  std::numeric_limits<int>::max()),
-                        1.0}
+        << QByteArray("fontSize") << QVariantList{std::numeric_limits<int>::max(), 1.0}
         << QVariant(19);
 }
 
