@@ -4,5 +4,6 @@ list(APPEND VYNUI_SOURCES
     style/vyncolorutils.h style/vyncolorutils.cpp
     style/vynhsbtransform.h
     style/vynuiqmlconstants.h style/vynuiqmlconstants.cpp
+    style/vynuimetrics.def
     style/vynviewconstants.h
 )

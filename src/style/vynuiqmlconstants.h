@@ -43,21 +43,29 @@ class QQmlEngine;
 
     Scaling. A metric is round(base x ratio), rounding halves away from zero
     (12.5 -> 13, -0.5 -> -1), returned as a double, or as an int for font
-    sizes. Members documented as unrounded return base x ratio as is.
+    sizes. Rows of vynuimetrics.def marked Unrounded return base x ratio as is.
 
     Default arguments. A missing ratio is 1.0, a missing control size is
     VynControlSizeRegular and a missing style VynStyleDark; QML sees the shorter
     forms as overloads, so fontSize() is 13 and fontSize(VynControlSizeMini) 9.
     A style can be left out only where every argument after it can be too.
 
-    Sizes outside a table. A control-size table answers for a size it does not
-    define with its nearest defined row: a size below Mini reads the Mini row,
-    and a size above the table's last row (ExtraLarge for the four-entry
-    tables, anything past ExtraLarge) reads the last row, Large for most
-    tables. The metrics that branch on the size compare the size's value with
-    Regular, so unknown values fall on the side they lie. An index past a
-    fixed list is clamped the same way unless the member documents another
-    answer. No member ever reads outside its table.
+    Enumerations from QML. QML passes any integer where a member takes an
+    enumeration, and every member answers for every integer. A control size
+    reads as described below; a style at or below VynStyleLight reads as
+    Light and one above it as Dark; an orientation other than Qt::Vertical
+    (0, 3, 7, ...) reads as Qt::Horizontal; a band type that is not suggested,
+    a style preference other than Light or Dark, and a side that is not one
+    of VynViewUtils::VynSide's single values get the answer each member
+    documents for them. Orientations are taken by reference so that the
+    integer QML stores is read as an integer: an out-of-range value is never
+    loaded as a Qt::Orientation.
+
+    Sizes outside a table. Every control-size row has an entry per size, Mini
+    to ExtraLarge; a size below Mini reads the Mini entry and a size past
+    ExtraLarge the ExtraLarge entry. An index past a fixed list is clamped the
+    same way unless the member documents another answer. No member ever reads
+    outside its table.
 */
 class VYNUI_EXPORT VynUIQmlConstants : public QObject
 {
@@ -118,8 +126,8 @@ public:
     /*!
         Asks the platform for a dark (VynStylePrefDark) or light (VynStylePrefLight)
         native title bar for \a p_window; VynStylePrefSystem leaves the title bar
-        alone, and a null window is ignored. The window's native handle is
-        created when it does not exist yet.
+        alone, as does any other integer, and a null window is ignored. The window's native handle
+       is created when it does not exist yet.
     */
     Q_INVOKABLE static void
     setNativeTitleBarColorForStyle(QWindow* p_window,
@@ -150,582 +158,17 @@ public:
         const QVariant& p_windowControllers, QObject* p_parent,
         const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
 
-    // Control-size tables: round(row[size] x ratio), rows given as
-    // Mini | Small | Regular | Large (| ExtraLarge); corner radii unrounded.
-    //! 9 | 11 | 13 | 15 | 19
-    Q_INVOKABLE static int
-    fontSize(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-             double p_ratio = 1.0);
-    //! 9 | 11 | 13 | 15
-    Q_INVOKABLE static int fontSizeFlatButton(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static int fontSizePopupButton(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 9 | 10 | 12 | 14
-    Q_INVOKABLE static int fontSizeInlineButton(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 8 | 10 | 12 | 14
-    Q_INVOKABLE static int fontSizePatchButton(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 4 | 8 | 12 | 16
-    Q_INVOKABLE static double
-    marginParent(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-                 double p_ratio = 1.0);
-    //! 2 | 4 | 8 | 16
-    Q_INVOKABLE static double
-    marginSpace(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-                double p_ratio = 1.0);
-    //! 175 | 200 | 240 | 320
-    Q_INVOKABLE static double popoverGenericWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 1 | 2 | 3 | 4
-    Q_INVOKABLE static double zoneIconAllLineWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double bezelButtonTitleInsetsV(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double flatButtonTitleInsetsV(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double flatButtonIconInsetsV(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double viewListButtonTitleInsetsV(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double popupButtonInsetsV(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 0 | 1 | 2 | 4
-    Q_INVOKABLE static double
-    zoneIconInsets(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-                   double p_ratio = 1.0);
-    Q_INVOKABLE static double toolbarButtonTitleIconSpacing(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 9 | 11 | 13 | 15 | 20
-    Q_INVOKABLE static double
-    ledHeight(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-              double p_ratio = 1.0);
-    //! 15 | 17 | 21 | 27
-    Q_INVOKABLE static double bezelButtonHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double textFieldHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 19 | 22 | 27 | 32
-    Q_INVOKABLE static double bezelButtonMinWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 2 | 3 | 5 (unrounded)
-    Q_INVOKABLE static double bezelButtonCornerRadius(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 4 | 6 | 7 | 10
-    Q_INVOKABLE static double bezelButtonTitleInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 2 | 3 | 6
-    Q_INVOKABLE static double bezelButtonIconInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 0 | 1 | 1 | 2
-    Q_INVOKABLE static double bezelButtonIconInsetsV(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 4 | 6 | 8
-    Q_INVOKABLE static double bezelButtonTitleIconSpacing(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 16 | 19 | 24 | 29 | 36
-    Q_INVOKABLE static double flatButtonHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 18 | 20 | 25 | 30
-    Q_INVOKABLE static double flatButtonMinWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 3.5 | 4 | 5 | 6 (unrounded)
-    Q_INVOKABLE static double flatButtonCornerRadius(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 4 | 6 | 8
-    Q_INVOKABLE static double flatButtonTitleInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double vuMeterTickPrimaryWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 4 | 5 | 8
-    Q_INVOKABLE static double flatButtonIconInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 4 | 6 | 6
-    Q_INVOKABLE static double flatButtonTitleIconSpacing(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 16 | 19 | 24 | 29
-    Q_INVOKABLE static double viewListButtonHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double popupButtonHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 3.5 | 4 | 5 (unrounded)
-    Q_INVOKABLE static double viewListButtonCornerRadius(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 16 | 7 | 9
-    Q_INVOKABLE static double viewListButtonTitleInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 1 | 2 | 2 | 3
-    Q_INVOKABLE static double viewListButtonImageInsetsV(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double inlineButtonTitleImageSpacing(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double vuMeterTickLeading(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double vuMeterTickLabelOffset(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 12 | 4 | 6
-    Q_INVOKABLE static double viewListButtonImageInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 4 | 4 | 6
-    Q_INVOKABLE static double viewListButtonCheckInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 11 | 13 | 15 | 17
-    Q_INVOKABLE static double
-    checkBoxHeight(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-                   double p_ratio = 1.0);
-    //! 2 | 3 | 4 | 5 (unrounded)
-    Q_INVOKABLE static double popupButtonCornerRadius(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 4 | 5 | 7
-    Q_INVOKABLE static double popupButtonInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 10 | 12 | 15 | 20
-    Q_INVOKABLE static double popupButtonArrowHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 11 | 15 | 18 | 21
-    Q_INVOKABLE static double inlineButtonHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 4 | 5 | 6
-    Q_INVOKABLE static double textFieldTextInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 1 | 1 | 2 | 3
-    Q_INVOKABLE static double textFieldPanningIconInsetsL(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double textFieldUnitButtonInsetsTBL(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 3 | 4 | 5
-    Q_INVOKABLE static double textFieldPanningIconTextSpacing(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static double sliderTrackHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 1 | 1 | 1 | 2
-    Q_INVOKABLE static double textFieldUnitButtonTextSpacing(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 2 | 3 | 4
-    Q_INVOKABLE static double textFieldUnitButtonTitleInsetsH(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 5 | 4 | 6
-    Q_INVOKABLE static double textFieldLabelTextSpacing(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 1 | 1 | 1 | 1 (unrounded)
-    Q_INVOKABLE static double sliderTrackCornerRadius(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 7 | 8 | 10 | 12
-    Q_INVOKABLE static double sliderThumbWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 15 | 17 | 20 | 23
-    Q_INVOKABLE static double sliderThumbHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 0 | 0 | 0 | 0
-    Q_INVOKABLE static double
-    sliderInsetsH(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-                  double p_ratio = 1.0);
-    //! 9 | 10 | 12 | 14
-    Q_INVOKABLE static double
-    vuMeterWidth(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-                 double p_ratio = 1.0);
-    //! 7 | 7 | 7 | 7
-    Q_INVOKABLE static double vuMeterCursorWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 12 | 12 | 12 | 12
-    Q_INVOKABLE static double vuMeterCursorHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 0.5 | 0.5 | 1 | 2
-    Q_INVOKABLE static double vuMeterTickSecondaryOffset(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 2.5 | 3.5 | 5
-    Q_INVOKABLE static double vuMeterTickSecondaryWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 7 | 8 | 9 | 10
-    Q_INVOKABLE static int vuMeterTickPrimaryFontSize(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    Q_INVOKABLE static int vuMeterTickSecondaryFontSize(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-
-    // Metrics that branch on the control size: (below Regular | Regular | above Regular).
-    //! 10 | 20 | 20
-    Q_INVOKABLE static double
-    marginWindow(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-                 double p_ratio = 1.0);
-    //! 5 | 10 | 20
-    Q_INVOKABLE static double
-    marginPopover(VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-                  double p_ratio = 1.0);
-    //! 16 | 22 | 26
-    Q_INVOKABLE static double colorIconHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 22 | 27 | 54
-    Q_INVOKABLE static double eqTypeIconHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 20 | 20 | 40
-    Q_INVOKABLE static double tableViewRowHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 5 | 5 | 8
-    Q_INVOKABLE static double buttonDropDownArrowWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 3 | 3 | 4
-    Q_INVOKABLE static double buttonDropDownArrowHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 31 | 39 | 39
-    Q_INVOKABLE static double tabButtonHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 37 | 50 | 50
-    Q_INVOKABLE static double switchButtonWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 18 | 27 | 27
-    Q_INVOKABLE static double switchButtonHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 14 | 16 | 16
-    Q_INVOKABLE static double circularProgressHeight(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 6 | 8 | 8
-    Q_INVOKABLE static double patchAnchorWidth(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 2 | 2 | 2
-    Q_INVOKABLE static double circularProgressThickness(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-    //! 15 | 15 | 15
-    Q_INVOKABLE static int fontSizeTabButton(
-        VynViewUtils::VynControlSize p_controlSize = VynViewUtils::VynControlSizeRegular,
-        double p_ratio = 1.0);
-
-    // Shadows: round(base x ratio).
-    Q_INVOKABLE static double zoneIconShadowBlur(double p_ratio = 1.0);    //!< base 3
-    Q_INVOKABLE static double zoneIconShadowOffsetW(double p_ratio = 1.0); //!< base 0
-    Q_INVOKABLE static double zoneIconShadowOffsetH(double p_ratio = 1.0); //!< base 0
-    Q_INVOKABLE static double popoverShadowBlur(double p_ratio = 1.0);     //!< base 12
-    Q_INVOKABLE static double popoverShadowOffsetW(double p_ratio = 1.0);  //!< base 0
-    Q_INVOKABLE static double popoverShadowOffsetH(double p_ratio = 1.0);  //!< base 1
-    Q_INVOKABLE static double popupShadowBlur(double p_ratio = 1.0);       //!< base 20
-    Q_INVOKABLE static double popupShadowOffsetW(double p_ratio = 1.0);    //!< base 0
-    Q_INVOKABLE static double popupShadowOffsetH(double p_ratio = 1.0);    //!< base 1
-
-    // Title and text fonts: round(base x ratio).
-    Q_INVOKABLE static int fontSizeTitlePrimary(double p_ratio = 1.0);          //!< base 27
-    Q_INVOKABLE static int fontSizeTitleSecondary(double p_ratio = 1.0);        //!< base 21
-    Q_INVOKABLE static int fontSizeTitleTertiary(double p_ratio = 1.0);         //!< base 19
-    Q_INVOKABLE static int fontSizeTitleQuaternary(double p_ratio = 1.0);       //!< base 15
-    Q_INVOKABLE static int fontSizeEditorTitle(double p_ratio = 1.0);           //!< base 24
-    Q_INVOKABLE static int fontSizeEditorDetail(double p_ratio = 1.0);          //!< base 13
-    Q_INVOKABLE static int fontSizeCellTitle(double p_ratio = 1.0);             //!< base 12
-    Q_INVOKABLE static int fontSizeCellDetail(double p_ratio = 1.0);            //!< base 10
-    Q_INVOKABLE static int fontSizeRecordButton(double p_ratio = 1.0);          //!< base 24
-    Q_INVOKABLE static int fontSizePopoverTitle(double p_ratio = 1.0);          //!< base 13
-    Q_INVOKABLE static int fontSizePopoverButton(double p_ratio = 1.0);         //!< base 12
-    Q_INVOKABLE static int fontSizePopoverButtonSubtitle(double p_ratio = 1.0); //!< base 10
-    Q_INVOKABLE static int fontSizePopoverLabel(double p_ratio = 1.0);          //!< base 11
-    Q_INVOKABLE static int fontSizeLogTimeSliderLabel(double p_ratio = 1.0);    //!< base 10
-    Q_INVOKABLE static int fontSizeLogTimeLabel(double p_ratio = 1.0);          //!< base 9
-    Q_INVOKABLE static int fontSizeLogDayLabel(double p_ratio = 1.0);           //!< base 9
-    Q_INVOKABLE static int fontSizeLogYLabel(double p_ratio = 1.0);             //!< base 9
-
-    // View lists and borders: round(base x ratio); corner and glow radii unrounded.
-    Q_INVOKABLE static double viewListDefaultSpacing(double p_ratio = 1.0);        //!< base 2
-    Q_INVOKABLE static double viewListAdditionalSpacing(double p_ratio = 1.0);     //!< base 4
-    Q_INVOKABLE static double viewListHeaderMarginTop(double p_ratio = 1.0);       //!< base 2
-    Q_INVOKABLE static double viewListHeaderMarginBottom(double p_ratio = 1.0);    //!< base 6
-    Q_INVOKABLE static double viewListHeaderLineViewSpacing(double p_ratio = 1.0); //!< base 5
-    Q_INVOKABLE static double borderViewCornerRadius(double p_ratio = 1.0); //!< base 7 (unrounded)
-    Q_INVOKABLE static double borderViewBorderSize(double p_ratio = 1.0);   //!< base 1
-    Q_INVOKABLE static double circularViewThickness(double p_ratio = 1.0);  //!< base 8
-    Q_INVOKABLE static double lineViewWidth(double p_ratio = 1.0);          //!< base 1
-    Q_INVOKABLE static double scrollBarWidth(double p_ratio = 1.0);         //!< base 6
-
-    // Popovers: round(base x ratio); corner and glow radii unrounded.
-    Q_INVOKABLE static double popoverArrowSize(double p_ratio = 1.0);    //!< base 10
-    Q_INVOKABLE static double popoverCornerRadius(double p_ratio = 1.0); //!< base 7 (unrounded)
-    Q_INVOKABLE static double popoverBorderWidth(double p_ratio = 1.0);  //!< base 1
-
-    // Icons and LEDs: round(base x ratio); corner and glow radii unrounded.
-    Q_INVOKABLE static double colorIconBorder(double p_ratio = 1.0);          //!< base 1
-    Q_INVOKABLE static double colorIconMixedLineWidth(double p_ratio = 1.0);  //!< base 2
-    Q_INVOKABLE static double colorIconMixedLineOffset(double p_ratio = 1.0); //!< base 1
-    Q_INVOKABLE static double ledBorder(double p_ratio = 1.0);                //!< base 0.5
-    Q_INVOKABLE static double ledMixedLineWidth(double p_ratio = 1.0);        //!< base 2
-    Q_INVOKABLE static double ledMixedLineDistance(double p_ratio = 1.0);     //!< base 1
-    Q_INVOKABLE static double ledGlowRadius(double p_ratio = 1.0);       //!< base 6 (unrounded)
-    Q_INVOKABLE static double ledGlowOffsetWidth(double p_ratio = 1.0);  //!< base 0
-    Q_INVOKABLE static double ledGlowOffsetHeight(double p_ratio = 1.0); //!< base 0
-    Q_INVOKABLE static double badgeNewHeight(double p_ratio = 1.0);      //!< base 9
-
-    // Buttons: round(base x ratio).
-    Q_INVOKABLE static double tableViewBorder(double p_ratio = 1.0);         //!< base 0.5
-    Q_INVOKABLE static double bezelButtonBorder(double p_ratio = 1.0);       //!< base 0.5
-    Q_INVOKABLE static double flatButtonBorder(double p_ratio = 1.0);        //!< base 1
-    Q_INVOKABLE static double viewListButtonBorder(double p_ratio = 1.0);    //!< base 1
-    Q_INVOKABLE static double setupButtonHeight(double p_ratio = 1.0);       //!< base 29
-    Q_INVOKABLE static double setupButtonInsetL(double p_ratio = 1.0);       //!< base 6
-    Q_INVOKABLE static double setupButtonInsetR(double p_ratio = 1.0);       //!< base 7
-    Q_INVOKABLE static double setupButtonImageSpacing(double p_ratio = 1.0); //!< base 3
-    Q_INVOKABLE static double liveModeButtonHeight(double p_ratio = 1.0);    //!< base 31
-    Q_INVOKABLE static double recordButtonHeight(double p_ratio = 1.0);      //!< base 37
-    Q_INVOKABLE static double circularProgressBorder(double p_ratio = 1.0);  //!< base 0.5
-
-    // Text fields: round(base x ratio).
-    Q_INVOKABLE static double textFieldPanningIconHeightMin(double p_ratio = 1.0); //!< base 13
-    Q_INVOKABLE static double textFieldBorder(double p_ratio = 1.0);               //!< base 0.5
-
-    // Sliders: round(base x ratio).
-    Q_INVOKABLE static double sliderTouchAreaOffset(double p_ratio = 1.0);      //!< base 14
-    Q_INVOKABLE static double sliderTrackingThreshold(double p_ratio = 1.0);    //!< base 3
-    Q_INVOKABLE static double sliderMaxDistancePerSecond(double p_ratio = 1.0); //!< base 200
-    Q_INVOKABLE static double sliderMaxAnglePerSecond(double p_ratio = 1.0);    //!< base 150
-    Q_INVOKABLE static double sliderThumbBorder(double p_ratio = 1.0);          //!< base 0.5
-    Q_INVOKABLE static double sliderTickSize(double p_ratio = 1.0);             //!< base 1
-
-    // VU meter: round(base x ratio); corner and glow radii unrounded.
-    Q_INVOKABLE static double vuMeterBorder(double p_ratio = 1.0);              //!< base 0.5
-    Q_INVOKABLE static double vuMeterCornerRadiusMin(double p_ratio = 1.0);     //!< base 2
-    Q_INVOKABLE static double vuMeterCornerRadiusMax(double p_ratio = 1.0);     //!< base 8
-    Q_INVOKABLE static double vuMeterMarginHMin(double p_ratio = 1.0);          //!< base 1.5
-    Q_INVOKABLE static double vuMeterMarginHMax(double p_ratio = 1.0);          //!< base 5
-    Q_INVOKABLE static double vuMeterMarginVMin(double p_ratio = 1.0);          //!< base 3
-    Q_INVOKABLE static double vuMeterMarginVMax(double p_ratio = 1.0);          //!< base 10
-    Q_INVOKABLE static double vuMeterCellHeightMin(double p_ratio = 1.0);       //!< base 2
-    Q_INVOKABLE static double vuMeterCellHeightMax(double p_ratio = 1.0);       //!< base 6
-    Q_INVOKABLE static double vuMeterTickPrimaryHeight(double p_ratio = 1.0);   //!< base 1
-    Q_INVOKABLE static double vuMeterTickSecondaryHeight(double p_ratio = 1.0); //!< base 0.5
-    Q_INVOKABLE static double vuMeterGlowRadius(double p_ratio = 1.0); //!< base 6 (unrounded)
-
-    // Graph thumbnails: round(base x ratio).
-    Q_INVOKABLE static double eqThumbnailStandardWidth(double p_ratio = 1.0);    //!< base 92
-    Q_INVOKABLE static double eqThumbnailStandardHeight(double p_ratio = 1.0);   //!< base 55
-    Q_INVOKABLE static double dynThumbnailStandardWidth(double p_ratio = 1.0);   //!< base 64
-    Q_INVOKABLE static double dynThumbnailStandardHeight(double p_ratio = 1.0);  //!< base 55
-    Q_INVOKABLE static double typeThumbnailStandardWidth(double p_ratio = 1.0);  //!< base 64
-    Q_INVOKABLE static double typeThumbnailStandardHeight(double p_ratio = 1.0); //!< base 34
-    Q_INVOKABLE static double graphThumbnailBorder(double p_ratio = 1.0);        //!< base 0.5
-    Q_INVOKABLE static double graphThumbnailCurveWidth(double p_ratio = 1.0);    //!< base 1.5
-
-    // Graph views: round(base x ratio).
-    Q_INVOKABLE static double arrayEQsCurveWidth(double p_ratio = 1.0);           //!< base 1
-    Q_INVOKABLE static double graphViewMainAxisWidth(double p_ratio = 1.0);       //!< base 1
-    Q_INVOKABLE static double graphViewSecondaryAxisWidth(double p_ratio = 1.0);  //!< base 1
-    Q_INVOKABLE static double graphThumbIdleWidth(double p_ratio = 1.0);          //!< base 16
-    Q_INVOKABLE static double graphThumbPressedWidth(double p_ratio = 1.0);       //!< base 32
-    Q_INVOKABLE static double graphThumbIdleFontSize(double p_ratio = 1.0);       //!< base 10
-    Q_INVOKABLE static double graphThumbPressedFontSize(double p_ratio = 1.0);    //!< base 17
-    Q_INVOKABLE static double graphThumbIdleBorderWidth(double p_ratio = 1.0);    //!< base 1
-    Q_INVOKABLE static double graphThumbPressedBorderWidth(double p_ratio = 1.0); //!< base 3
-    Q_INVOKABLE static double graphThumbPressedLineWidth(double p_ratio = 1.0);   //!< base 1
-    Q_INVOKABLE static double graphLabelFontSize(double p_ratio = 1.0);           //!< base 10
-    Q_INVOKABLE static double graphLabelMarginMain(double p_ratio = 1.0);         //!< base 5
-    Q_INVOKABLE static double graphLabelMarginSecondary(double p_ratio = 1.0);    //!< base 5
-    Q_INVOKABLE static double graphCurveWidth(double p_ratio = 1.0);              //!< base 1
-    Q_INVOKABLE static double graphSelectedCurveWidth(double p_ratio = 1.0);      //!< base 3
-
-    // Patch view: round(base x ratio).
-    Q_INVOKABLE static double patchViewLineWidth(double p_ratio = 1.0);               //!< base 1.5
-    Q_INVOKABLE static double patchViewHighlightedLineWidth(double p_ratio = 1.0);    //!< base 1.5
-    Q_INVOKABLE static double patchViewNotHighlightedLineWidth(double p_ratio = 1.0); //!< base 1.5
-
-    // Log graph: round(base x ratio); corner and glow radii unrounded.
-    Q_INVOKABLE static double logGraphBreakLineWidth(double p_ratio = 1.0);   //!< base 1
-    Q_INVOKABLE static double logGraphAxisWidth(double p_ratio = 1.0);        //!< base 2
-    Q_INVOKABLE static double logGraphAxisShadowOffset(double p_ratio = 1.0); //!< base -1
-    Q_INVOKABLE static double logGraphMarkWidth(double p_ratio = 1.0);        //!< base 2
-    Q_INVOKABLE static double logGraphCurrentMarkWidth(double p_ratio = 1.0); //!< base 6
-    Q_INVOKABLE static double logGraphBubbleLineWidth(double p_ratio = 1.0);  //!< base 1
-    Q_INVOKABLE static double logGraphBubbleWidth(double p_ratio = 1.0);      //!< base 176
-    Q_INVOKABLE static double logGraphBubbleHeight(double p_ratio = 1.0);     //!< base 56
-    Q_INVOKABLE static double logGraphBubbleRadius(double p_ratio = 1.0);   //!< base 10 (unrounded)
-    Q_INVOKABLE static double logGraphArrowWidth(double p_ratio = 1.0);     //!< base 12
-    Q_INVOKABLE static double logGraphArrowHeight(double p_ratio = 1.0);    //!< base 24
-    Q_INVOKABLE static double logGraphMarginTop(double p_ratio = 1.0);      //!< base 10
-    Q_INVOKABLE static double logGraphMarginBottom(double p_ratio = 1.0);   //!< base 5
-    Q_INVOKABLE static double logGraphMarginLeft(double p_ratio = 1.0);     //!< base 10
-    Q_INVOKABLE static double logGraphMarginRight(double p_ratio = 1.0);    //!< base 20
-    Q_INVOKABLE static double logLabelsMargin(double p_ratio = 1.0);        //!< base 10
-    Q_INVOKABLE static double logLabelsOffsetRight(double p_ratio = 1.0);   //!< base 10
-    Q_INVOKABLE static double logLabelsOffsetLeft(double p_ratio = 1.0);    //!< base 20
-    Q_INVOKABLE static double logTimeCursorMinWidth(double p_ratio = 1.0);  //!< base 27
-    Q_INVOKABLE static double logGraphYLabelWidth(double p_ratio = 1.0);    //!< base 30
-    Q_INVOKABLE static double logGraphYLabelMargin(double p_ratio = 1.0);   //!< base 4
-    Q_INVOKABLE static double logTipPadding(double p_ratio = 1.0);          //!< base 10
-    Q_INVOKABLE static double logTipMarginTop(double p_ratio = 1.0);        //!< base 5
-    Q_INVOKABLE static double logTipMarginLeft(double p_ratio = 1.0);       //!< base 10
-    Q_INVOKABLE static double logTipSepHeight(double p_ratio = 1.0);        //!< base 1
-    Q_INVOKABLE static double logTipSepMargin(double p_ratio = 1.0);        //!< base 2
-    Q_INVOKABLE static double logTipValueFrameHeight(double p_ratio = 1.0); //!< base 18
-    Q_INVOKABLE static double logTipValueFrameInset(double p_ratio = 1.0);  //!< base 6
-    Q_INVOKABLE static double logGraphBreakWidth(double p_ratio = 1.0);     //!< base 8
-    Q_INVOKABLE static double logGraphCellDefaultHeight(double p_ratio = 1.0); //!< base 161
-    Q_INVOKABLE static double logGraphMinMaxCurveWidth(double p_ratio = 1.0);  //!< base 1.5
-    Q_INVOKABLE static double logGraphAvgCurveWidth(double p_ratio = 1.0);     //!< base 0.5
-
-    // Image heights: round(base x ratio).
-    Q_INVOKABLE static double imageToolBarButtonHeight(double p_ratio = 1.0);       //!< base 24
-    Q_INVOKABLE static double imageFooterButtonHeightDesktop(double p_ratio = 1.0); //!< base 20
-    Q_INVOKABLE static double imageInlineHeightDesktop(double p_ratio = 1.0);       //!< base 14
-    Q_INVOKABLE static double
-    imageAdditionalToolBarButtonHeightMobile(double p_ratio = 1.0); //!< base 22
-    Q_INVOKABLE static double
-    imageAdditionalNavigationButtonHeightMobile(double p_ratio = 1.0);                 //!< base 24
-    Q_INVOKABLE static double imageAdditionalButtonHeightMobile(double p_ratio = 1.0); //!< base 37
-    Q_INVOKABLE static double imageInButtonHeightDesktop(double p_ratio = 1.0);        //!< base 20
-    Q_INVOKABLE static double imageInButtonHeightMobile(double p_ratio = 1.0);         //!< base 24
-    Q_INVOKABLE static double imageInInlineButtonHeightDesktop(double p_ratio = 1.0);  //!< base 18
-    Q_INVOKABLE static double imageInInlineButtonHeightMobile(double p_ratio = 1.0);   //!< base 28
-    Q_INVOKABLE static double imageRoundButtonHeightDesktop(double p_ratio = 1.0);     //!< base 15
-    Q_INVOKABLE static double imageRoundButtonHeightMobile(double p_ratio = 1.0);      //!< base 20
-    Q_INVOKABLE static double imageProductHeight(double p_ratio = 1.0);                //!< base 16
-    Q_INVOKABLE static double imageInMenuHeightDesktop(double p_ratio = 1.0);          //!< base 20
-    Q_INVOKABLE static double imageInMenuHeightMobile(double p_ratio = 1.0);           //!< base 24
-
-    // Fixed ratios and factors.
-    Q_INVOKABLE static double colorIconCornerRadiusRatio();              //!< 0.2
-    Q_INVOKABLE static double zoneIconKernRatio();                       //!< -0.2
-    Q_INVOKABLE static double ledFontSizeRatio();                        //!< 0.7
-    Q_INVOKABLE static double inlineButtonTitleInsetsHRatio();           //!< 0.4
-    Q_INVOKABLE static double inlineButtonImageInsetsHRatio();           //!< 0.33
-    Q_INVOKABLE static double textFieldPanningIconHeightRatio();         //!< 0.9
-    Q_INVOKABLE static double sliderYAttenuationFactor();                //!< 150
-    Q_INVOKABLE static double sliderWheelMinimizeFactor();               //!< 5
-    Q_INVOKABLE static double sliderWheelMaximizeFactor();               //!< 5
-    Q_INVOKABLE static double sliderThumbCornerRadiusRatio();            //!< 0.2
-    Q_INVOKABLE static double circularProgressHeightInsideButtonRatio(); //!< 1.2
-    Q_INVOKABLE static double vuMeterCornerRadiusRatio();                //!< 0.3
-    Q_INVOKABLE static double vuMeterMarginHRatio();                     //!< 0.1
-    Q_INVOKABLE static double vuMeterMarginVRatio();                     //!< 0.4
-    Q_INVOKABLE static double vuMeterCellHeightRatio();                  //!< 0.15
-    Q_INVOKABLE static double vuMeterCellSpaceRatio();                   //!< 0.2
-    Q_INVOKABLE static double eqThumbnailSizeRatio();                    //!< 1.67
-    Q_INVOKABLE static double dynThumbnailSizeRatio();                   //!< 1.125
-    Q_INVOKABLE static double typeThumbnailSizeRatio();                  //!< 1.88
-
-    // Window and popover sizes, unscaled.
-    Q_INVOKABLE static int windowWidthTeskMain();             //!< 800
-    Q_INVOKABLE static int windowHeightTeskMain();            //!< 600
-    Q_INVOKABLE static int windowWidthOrlaMain();             //!< 1240
-    Q_INVOKABLE static int windowHeightOrlaMain();            //!< 768
-    Q_INVOKABLE static int windowWidthOrlaWelcome();          //!< 481
-    Q_INVOKABLE static int windowHeightOrlaWelcome();         //!< 333
-    Q_INVOKABLE static int windowWidthOrlaPresenter();        //!< 940
-    Q_INVOKABLE static int windowHeightOrlaPresenter();       //!< 700
-    Q_INVOKABLE static int windowWidthOrlaPreferences();      //!< 640
-    Q_INVOKABLE static int windowHeightOrlaPreferences();     //!< 640
-    Q_INVOKABLE static int windowWidthOrlaEQ();               //!< 740
-    Q_INVOKABLE static int windowHeightOrlaEQ();              //!< 620
-    Q_INVOKABLE static int windowWidthOrlaLogRecords();       //!< 800
-    Q_INVOKABLE static int windowHeightOrlaLogRecords();      //!< 600
-    Q_INVOKABLE static int windowWidthOrlaImportExport();     //!< 860
-    Q_INVOKABLE static int minWindowWidthOrlaMain();          //!< 400
-    Q_INVOKABLE static int minWindowHeightOrlaMain();         //!< 180
-    Q_INVOKABLE static int minSelectorWidthOrla();            //!< 240
-    Q_INVOKABLE static int minSelectorHeightOrla();           //!< 180
-    Q_INVOKABLE static int minEditorWidthOrla();              //!< 540
-    Q_INVOKABLE static int minEditorHeightOrla();             //!< 450
-    Q_INVOKABLE static int minInspectorWidthOrla();           //!< 240
-    Q_INVOKABLE static int minInspectorHeightOrla();          //!< 180
-    Q_INVOKABLE static int minAccessoryWindowWidthOrla();     //!< 320
-    Q_INVOKABLE static int minAccessoryWindowHeightOrla();    //!< 320
-    Q_INVOKABLE static int windowWidthOrlaLibrary();          //!< 700
-    Q_INVOKABLE static int windowHeightOrlaLibrary();         //!< 440
-    Q_INVOKABLE static int minWindowWidthOrlaLibrary();       //!< 575
-    Q_INVOKABLE static int minWindowHeightOrlaLibrary();      //!< 200
-    Q_INVOKABLE static int popoverWidthOrlaEQ();              //!< 500
-    Q_INVOKABLE static int popoverHeightOrlaEQ();             //!< 440
-    Q_INVOKABLE static int popoverWidthOrlaDyn();             //!< 510
-    Q_INVOKABLE static int popoverHeightOrlaDyn();            //!< 400
-    Q_INVOKABLE static int popoverWidthOrlaSetupScene();      //!< 480
-    Q_INVOKABLE static int popoverHeightOrlaSetupScene();     //!< 400
-    Q_INVOKABLE static int popoverWidthOrlaScreenCompEdit();  //!< 510
-    Q_INVOKABLE static int popoverHeightOrlaScreenCompEdit(); //!< 320
-    Q_INVOKABLE static int popoverWidthOrlaScreenCompIE();    //!< 790
-    Q_INVOKABLE static int popoverHeightOrlaScreenCompIE();   //!< 360
-    // Scaled window metrics: base x ratio converted to int (truncated toward zero).
-    Q_INVOKABLE static int minControlAmpInHeightOrla(double p_ratio = 1.0);      //!< base 100
-    Q_INVOKABLE static int standardControlAmpInHeightOrla(double p_ratio = 1.0); //!< base 140
-    Q_INVOKABLE static int standardControlKroInHeightOrla(double p_ratio = 1.0); //!< base 150
-    Q_INVOKABLE static int minControlAmpOutHeightOrla(double p_ratio = 1.0);     //!< base 130
-    Q_INVOKABLE static int minSearchFieldWidthOrlaLibrary(double p_ratio = 1.0); //!< base 120
-
-    // Drag-and-drop mime types.
-    Q_INVOKABLE static QString getMimeTypeOrla();                //!< "application/koru-orla"
-    Q_INVOKABLE static QString getMimeTypeQVariant();            //!< "application/qvariant"
-    Q_INVOKABLE static QString getMimeTypeVynGrouping();         //!< "application/vyngrouping"
-    Q_INVOKABLE static QString getMimeTypeVynGroupedObject();    //!< "application/vyngroupedobject"
-    Q_INVOKABLE static QString getMimeTypeVynGroup();            //!< "text/vyngroup"
-    Q_INVOKABLE static QString getMimeTypeVynZone();             //!< "text/vynzone"
-    Q_INVOKABLE static QString getMimeTypeVynDevicePrototype();  //!< "text/vyndeviceprototype"
-    Q_INVOKABLE static QString getMimeTypeVynChannelPrototype(); //!< "text/vynchannelprototype"
-    Q_INVOKABLE static QString
-    getMimeTypeVynControlledObject();                      //!< "application/vyncontrolledobject"
-    Q_INVOKABLE static QString getMimeTypeVynEQCommonEQ(); //!< "text/vyneqcommoneq"
-    Q_INVOKABLE static QString getMimeTypeVynScene();      //!< "text/vynscene"
-    Q_INVOKABLE static QString getMimeTypeVynNetworkMap(); //!< "text/vynnetworkmap"
-    Q_INVOKABLE static QString getMimeTypeVynScreenComposition(); //!< "text/vynscreencomposition"
-    Q_INVOKABLE static QString getMimeTypeUrls();                 //!< "text/uri-list"
+    // Metrics and mime types: one invokable per row of vynuimetrics.def, which gives each
+    // member's result type, name, scaling and base values.
+#define VYNUI_SIZED_METRIC(type, name, scaling, mini, small, regular, large, extraLarge)           \
+    Q_INVOKABLE static type name(VynViewUtils::VynControlSize p_controlSize =                      \
+                                     VynViewUtils::VynControlSizeRegular,                          \
+                                 double p_ratio = 1.0);
+#define VYNUI_SCALED_METRIC(type, name, scaling, base)                                             \
+    Q_INVOKABLE static type name(double p_ratio = 1.0);
+#define VYNUI_FIXED_METRIC(type, name, value) Q_INVOKABLE static type name();
+#define VYNUI_MIME_TYPE(getter, member, text) Q_INVOKABLE static QString getter();
+#include "vynuimetrics.def"
 
     /*!
         The localised text of \a p_key in the QtCommons table \a p_table ("VynLocalizable"
@@ -736,20 +179,8 @@ public:
     localizedString(const QString& p_key,
                     const QString& p_table = QStringLiteral("VynLocalizable"));
 
-    static const QString g_mimeTypeOrla;
-    static const QString g_mimeTypeQVariant;
-    static const QString g_mimeTypeVynGrouping;
-    static const QString g_mimeTypeVynGroupedObject;
-    static const QString g_mimeTypeVynGroup;
-    static const QString g_mimeTypeVynZone;
-    static const QString g_mimeTypeVynDevicePrototype;
-    static const QString g_mimeTypeVynChannelPrototype;
-    static const QString g_mimeTypeVynControlledObject;
-    static const QString g_mimeTypeVynEQCommonEQ;
-    static const QString g_mimeTypeVynScene;
-    static const QString g_mimeTypeVynNetworkMap;
-    static const QString g_mimeTypeVynScreenComposition;
-    static const QString g_mimeTypeUrls;
+#define VYNUI_MIME_TYPE(getter, member, text) static const QString member;
+#include "vynuimetrics.def"
     /*!
         Slide-field acceleration: the number of zones, round(4 x ratio), and per
         zone (index 0 to 3) its rate ratio x (0.25, 1, 2.5, 4) and its start
@@ -787,7 +218,8 @@ public:
 
     //! The band type of suggestion \a p_index; VynEQTypeNone (65535) outside 0 to 5.
     Q_INVOKABLE static VynEQConstants::VynEQBandType eqBandTypeForIndex(int p_index);
-    //! The first suggestion of band type \a p_type, or -1.
+    //! The first suggestion of band type \a p_type, or -1 (also for any integer that is not a
+    //! type).
     Q_INVOKABLE static int eqIndexForBandType(VynEQConstants::VynEQBandType p_type);
     //! The name of suggestion \a p_index; an empty string outside 0 to 5.
     Q_INVOKABLE static QString eqBandTypeStringForIndex(int p_index);
@@ -795,7 +227,7 @@ public:
         The URL of the button image of band type \a p_type: "btn<name>.png", or
         "btn<name>48.png" for a content height of 50 or less, resolved by
         VynFileUtils::pathForImageNamed(). An empty string for a type that is
-        not suggested.
+        not suggested, or for any integer that is not a type.
     */
     Q_INVOKABLE static QString imageUrlForEQBandType(VynEQConstants::VynEQBandType p_type,
                                                      double p_contentHeight);
@@ -821,24 +253,48 @@ public:
     Q_INVOKABLE static bool qRectFContainsQPoint(const QRectF& p_rect, const QPointF& p_point);
     //! QRectF::united(): the bounding rectangle of both; an empty one is ignored.
     Q_INVOKABLE static QRectF qRectFUnited(const QRectF& p_rect1, const QRectF& p_rect2);
+    /*!
+        The orientation of the line an edge lies on: Qt::Vertical for VynSideLeft,
+        VynSideRight and VynSideHorizontalCenter, Qt::Horizontal for any other
+        value, combinations and unnamed integers included.
+    */
     Q_INVOKABLE static Qt::Orientation
     alignmentsViewVynSideOrientation(VynViewUtils::VynSide p_side);
+    //! Qt::Horizontal for Qt::Vertical, Qt::Vertical for any other value.
     Q_INVOKABLE static Qt::Orientation
-    alignmentsViewVynOrientationOther(Qt::Orientation p_orientation);
+    alignmentsViewVynOrientationOther(const Qt::Orientation& p_orientation);
+    //! The (min, max) extent of \a p_rect along y for Qt::Vertical, along x for any other value.
     Q_INVOKABLE static VynViewUtils::VynSideBounds
-    alignmentsViewVynSideBoundsForRect(const QRectF& p_rect, Qt::Orientation p_orientation);
+    alignmentsViewVynSideBoundsForRect(const QRectF& p_rect, const Qt::Orientation& p_orientation);
+    /*!
+        The coordinate of edge \a p_side of \a p_rect: x for VynSideLeft, y for
+        VynSideTop, x + width for VynSideRight, y + height for VynSideBottom,
+        y + height / 2 for VynSideVerticalCenter, and x + width / 2 for
+        VynSideHorizontalCenter and any other value.
+    */
     Q_INVOKABLE static double
     alignmentsViewQRectFOrthogonalDimensionForSide(const QRectF& p_rect,
                                                    VynViewUtils::VynSide p_side);
+    //! The height of \a p_rect for Qt::Vertical, its width for any other value.
     Q_INVOKABLE static double
-    alignmentsViewQRectFSizeAlongOrientation(const QRectF& p_rect, Qt::Orientation p_orientation);
+    alignmentsViewQRectFSizeAlongOrientation(const QRectF& p_rect,
+                                             const Qt::Orientation& p_orientation);
     //! A rounded copy of \a p_rect (see VynViewUtils::roundedQRectF()).
     Q_INVOKABLE static QRectF alignmentsViewRoundedQRectF(const QRectF& p_rect);
+    /*!
+        The rectangle of a line from \a p_start to \a p_end at \a p_position,
+        \a p_thickness thick: a vertical line for Qt::Vertical, a horizontal
+        one for any other value.
+    */
     Q_INVOKABLE static QRectF alignmentsViewQRectFForLine(double p_start, double p_end,
                                                           double p_position,
-                                                          Qt::Orientation p_orientation,
+                                                          const Qt::Orientation& p_orientation,
                                                           double p_thickness);
-    //! \a p_sides may combine edges (VynSideLeft | VynSideTop).
+    /*!
+        The corners between the edges \a p_sides combines (VynSideLeft | VynSideTop
+        gives VynCornerTopLeft). Only the Left, Top, Right and Bottom bits count, so
+        any integer has an answer: -1 has all four, and gives every corner.
+    */
     Q_INVOKABLE static VynViewUtils::VynCorner cornersForSides(VynViewUtils::VynSide p_sides);
 
     // Level meters.

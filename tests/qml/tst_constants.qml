@@ -112,6 +112,41 @@ TestCase {
         verify(VynUIQmlConstants.qRectFContainsQPoint(Qt.rect(0, 0, 10, 10), Qt.point(5, 5)))
     }
 
+    // A document can pass any integer where a member takes an enumeration; each member has a
+    // defined answer for it. An orientation other than Qt.Vertical reads as Qt.Horizontal.
+    function test_orientationsOutOfRange_data() {
+        return [0, 3, 7, -1, 2147483647, -2147483648].map(value => ({ tag: String(value),
+                                                                    value: value }))
+    }
+
+    function test_orientationsOutOfRange(data) {
+        const rect = Qt.rect(1, 2, 30, 40)
+        compare(VynUIQmlConstants.alignmentsViewVynOrientationOther(data.value), Qt.Vertical)
+        compare(VynUIQmlConstants.alignmentsViewQRectFSizeAlongOrientation(rect, data.value), 30)
+        const bounds = VynUIQmlConstants.alignmentsViewVynSideBoundsForRect(rect, data.value)
+        compare(bounds.min, 1)
+        compare(bounds.max, 31)
+        compare(VynUIQmlConstants.alignmentsViewQRectFForLine(0, 10, 5, data.value, 2),
+                Qt.rect(0, 4, 10, 2))
+    }
+
+    function test_otherEnumerationsOutOfRange() {
+        compare(VynUIQmlConstants.alignmentsViewVynSideOrientation(64), Qt.Horizontal)
+        compare(VynUIQmlConstants.alignmentsViewVynSideOrientation(-1), Qt.Horizontal)
+        compare(VynUIQmlConstants.cornersForSides(-1), VynViewUtils.VynCornerAllCorners)
+        compare(VynUIQmlConstants.fontSize(7, 1), 19)
+        compare(VynUIQmlConstants.fontSize(2147483647, 1), 19)
+        compare(VynUIQmlConstants.fontSize(-7, 1), 9)
+        compare(VynUIQmlConstants.controlFillColor(7),
+                VynUIQmlConstants.controlFillColor(VynColorUtils.VynStyleDark))
+        compare(VynUIQmlConstants.controlFillColor(-7),
+                VynUIQmlConstants.controlFillColor(VynColorUtils.VynStyleLight))
+        verify(!Qt.colorEqual(VynUIQmlConstants.controlFillColor(VynColorUtils.VynStyleDark),
+                              VynUIQmlConstants.controlFillColor(VynColorUtils.VynStyleLight)))
+        compare(VynUIQmlConstants.eqIndexForBandType(-3), -1)
+        compare(VynUIQmlConstants.imageUrlForEQBandType(1000, 60), "")
+    }
+
     function test_bindingsFollowSizeAndRatio() {
         control.vynControlSize = VynViewUtils.VynControlSizeRegular
         control.vynPixelRatio = 1.0

@@ -16,6 +16,7 @@
 #include <QWindow>
 
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <memory>
 
@@ -29,12 +30,40 @@ constexpr VynControlSize Regular = VynViewUtils::VynControlSizeRegular;
 constexpr VynControlSize Large = VynViewUtils::VynControlSizeLarge;
 constexpr VynControlSize ExtraLarge = VynViewUtils::VynControlSizeExtraLarge;
 
+// A value of enumeration \a type holding \a raw, named or not, as QML stores an integer
+// where a member takes an enumeration.
+QVariant enumValue(QMetaType type, int raw)
+{
+    QVariant value(type, nullptr);
+    Q_ASSERT(type.sizeOf() == int(sizeof(raw)));
+    std::memcpy(value.data(), &raw, sizeof(raw));
+    return value;
+}
+
+// Calls \a method with \a args, which hold the method's own parameter types.
+QVariant invokeWith(const QMetaMethod& method, const QList<QVariant>& args)
+{
+    QVariant result(method.returnMetaType(), nullptr);
+    QGenericReturnArgument ret(method.returnMetaType().name(), result.data());
+    QGenericArgument a[10];
+    for (int p = 0; p < args.size(); ++p)
+        a[p] = QGenericArgument(method.parameterMetaType(p).name(), args.at(p).constData());
+    if (!method.invoke(VynUIQmlConstants::instance(), Qt::DirectConnection, ret, a[0], a[1], a[2],
+                       a[3], a[4], a[5], a[6], a[7], a[8], a[9]))
+        return QVariant();
+    return method.returnMetaType() == QMetaType::fromType<void>() ? QVariant(true) : result;
+}
+
 /*
  * Calls a catalogue member by name through the meta-object, as QML does, so the
  * tests also check that the member is invokable with the expected argument
- * types. The answer is converted to double whatever the member's return type.
+ * types. An int given for an enumeration is stored as QML stores it, whatever
+ * its value; such a value is never copied as the enumeration, which would be
+ * undefined for a value the enumeration cannot hold. The answer keeps the
+ * member's return type; an invalid QVariant means that no member takes these
+ * arguments.
  */
-double callMetric(const char* name, const QList<QVariant>& args)
+QVariant callMember(const char* name, const QList<QVariant>& args)
 {
     VynUIQmlConstants* object = VynUIQmlConstants::instance();
     const QMetaObject* meta = object->metaObject();
@@ -43,25 +72,97 @@ double callMetric(const char* name, const QList<QVariant>& args)
         if (method.name() != name || method.parameterCount() != args.size())
             continue;
         QList<QVariant> converted;
+        converted.reserve(args.size());
         bool ok = true;
         for (int p = 0; p < args.size(); ++p) {
+            const QMetaType type = method.parameterMetaType(p);
+            if ((type.flags() & QMetaType::IsEnumeration) &&
+                args.at(p).typeId() == QMetaType::Int) {
+                converted.append(enumValue(type, args.at(p).toInt()));
+                continue;
+            }
             QVariant arg = args.at(p);
             ok = ok && arg.convert(method.parameterMetaType(p));
             converted.append(arg);
         }
         if (!ok)
             continue;
-        QVariant result(method.returnMetaType(), nullptr);
-        QGenericReturnArgument ret(method.returnMetaType().name(), result.data());
-        QGenericArgument a[2];
-        for (int p = 0; p < converted.size(); ++p)
-            a[p] = QGenericArgument(converted.at(p).typeName(), converted.at(p).constData());
-        if (!method.invoke(object, Qt::DirectConnection, ret, a[0], a[1]))
-            return std::nan("");
-        return result.toDouble();
+        return invokeWith(method, converted);
     }
     qWarning("no invokable %s with %d arguments", name, int(args.size()));
-    return std::nan("");
+    return QVariant();
+}
+
+// callMember() converted to double whatever the member's return type; NaN when the call fails.
+double callMetric(const char* name, const QList<QVariant>& args)
+{
+    const QVariant result = callMember(name, args);
+    return result.isValid() ? result.toDouble() : std::nan("");
+}
+
+// The argument a call passes for a parameter that is not under test.
+QVariant neutralArgument(QMetaType type)
+{
+    if (type.flags() & QMetaType::IsEnumeration)
+        return enumValue(type, 1);
+    if (type == QMetaType::fromType<QColor>())
+        return QColor(200, 60, 30, 128);
+    if (type == QMetaType::fromType<QRectF>())
+        return QRectF(1, 2, 30, 40);
+    if (type == QMetaType::fromType<QList<double>>())
+        return QVariant::fromValue(QList<double>{0.0, 0.5, 1.0});
+    if (type == QMetaType::fromType<QWindow*>())
+        return QVariant::fromValue<QWindow*>(nullptr);
+    QVariant value(1);
+    return value.convert(type) ? value : QVariant();
+}
+
+bool sameAnswer(const QVariant& a, const QVariant& b)
+{
+    if (a.metaType() == QMetaType::fromType<VynViewUtils::VynSideBounds>()) {
+        const auto x = a.value<VynViewUtils::VynSideBounds>();
+        const auto y = b.value<VynViewUtils::VynSideBounds>();
+        return x.min == y.min && x.max == y.max;
+    }
+    return a.isValid() && a == b;
+}
+
+/*
+ * The named values of the enumerations the catalogue takes, and for any other integer the
+ * named value whose answer the catalogue gives for it.
+ */
+struct EnumRule
+{
+    const char* type;
+    QList<int> named;
+    int (*equivalent)(int raw, const QByteArray& member);
+};
+
+const EnumRule kEnumRules[] = {
+    {"VynViewUtils::VynControlSize",
+     {0, 1, 2, 3, 4},
+     [](int raw, const QByteArray&) { return raw < 0 ? 0 : 4; }},
+    {"VynColorUtils::VynStyle", {0, 1}, [](int raw, const QByteArray&) { return raw < 0 ? 0 : 1; }},
+    {"Qt::Orientation", {1, 2}, [](int, const QByteArray&) { return int(Qt::Horizontal); }},
+    {"VynViewUtils::VynSide",
+     {0, 1, 2, 4, 8, 15, 16, 32},
+     [](int raw, const QByteArray& member) {
+         // Corners read the four edge bits; single-edge members answer as for no edge.
+         return member == "cornersForSides" ? raw & 15 : 0;
+     }},
+    {"VynEQConstants::VynEQBandType",
+     {0, 1, 2, 3, 4, 5, 6, 7, 65535},
+     [](int, const QByteArray&) { return 65535; }},
+    {"VynColorUtils::VynStylePreference", {0, 1, 2}, [](int, const QByteArray&) { return 2; }},
+};
+
+const EnumRule* enumRule(QMetaType type)
+{
+    for (const EnumRule& rule : kEnumRules) {
+        if (qstrcmp(type.name(), rule.type) == 0)
+            return &rule;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -83,6 +184,8 @@ private slots:
     void outOfRange();
     void defaultArguments();
     void fontSizesAreInts();
+    void recordedMetrics_data();
+    void recordedMetrics();
 
     void genericHelpers_data();
     void genericHelpers();
@@ -102,6 +205,10 @@ private slots:
     void mimeTypes();
     void geometryForwarders();
     void nativeTitleBar();
+    void enumArgumentsOutOfRange_data();
+    void enumArgumentsOutOfRange();
+    void enumArgumentAnswers_data();
+    void enumArgumentAnswers();
 
     void tickMarkChoice_data();
     void tickMarkChoice();
@@ -354,6 +461,132 @@ void tst_QmlConstants::fontSizesAreInts()
     const int margin = meta->indexOfMethod("marginParent(VynViewUtils::VynControlSize,double)");
     QVERIFY(margin >= 0);
     QCOMPARE(meta->method(margin).returnMetaType(), QMetaType::fromType<double>());
+}
+
+void tst_QmlConstants::recordedMetrics_data()
+{
+    QTest::addColumn<QByteArray>("member");
+    QTest::addColumn<QVariantList>("arguments");
+    QTest::addColumn<QVariant>("expected");
+
+    // Answers recorded from the catalogue, a few members of every family: each size from
+    // one below Mini to one past ExtraLarge, at ratios 1 and 1.5 (and 0.3 for the members
+    // that take only a ratio), with the member's own return type.
+    enum Kind { Int, Double };
+    const auto answer = [](Kind kind, double value) {
+        return kind == Int ? QVariant(int(value)) : QVariant(value);
+    };
+    const auto sized = [&](const char* member, Kind kind, double ratio,
+                           std::initializer_list<double> values) {
+        int size = -1;
+        for (double value : values) {
+            QTest::addRow("%s/size %d/ratio %g", member, size, ratio)
+                << QByteArray(member)
+                << QVariantList{QVariant::fromValue(VynControlSize(size)), ratio}
+                << answer(kind, value);
+            ++size;
+        }
+    };
+    const auto scaled = [&](const char* member, Kind kind, std::initializer_list<double> values) {
+        const double ratios[] = {1.0, 1.5, 0.3};
+        const double* ratio = ratios;
+        for (double value : values) {
+            QTest::addRow("%s/ratio %g", member, *ratio)
+                << QByteArray(member) << QVariantList{*ratio} << answer(kind, value);
+            ++ratio;
+        }
+    };
+    const auto fixed = [&](const char* member, Kind kind, double value) {
+        QTest::addRow("%s", member) << QByteArray(member) << QVariantList() << answer(kind, value);
+    };
+
+    sized("fontSize", Int, 1.0, {9, 9, 11, 13, 15, 19, 19});
+    sized("fontSize", Int, 1.5, {14, 14, 17, 20, 23, 29, 29});
+    sized("fontSizePopupButton", Int, 1.0, {9, 9, 11, 13, 15, 15, 15});
+    sized("fontSizePopupButton", Int, 1.5, {14, 14, 17, 20, 23, 23, 23});
+    sized("vuMeterTickSecondaryFontSize", Int, 1.0, {7, 7, 8, 9, 10, 10, 10});
+    sized("vuMeterTickSecondaryFontSize", Int, 1.5, {11, 11, 12, 14, 15, 15, 15});
+    sized("marginParent", Double, 1.0, {4, 4, 8, 12, 16, 16, 16});
+    sized("marginParent", Double, 1.5, {6, 6, 12, 18, 24, 24, 24});
+    sized("popoverGenericWidth", Double, 1.0, {175, 175, 200, 240, 320, 320, 320});
+    sized("popoverGenericWidth", Double, 1.5, {263, 263, 300, 360, 480, 480, 480});
+    sized("bezelButtonTitleInsetsV", Double, 1.0, {1, 1, 2, 3, 4, 4, 4});
+    sized("bezelButtonTitleInsetsV", Double, 1.5, {2, 2, 3, 5, 6, 6, 6});
+    sized("textFieldHeight", Double, 1.0, {15, 15, 17, 21, 27, 27, 27});
+    sized("textFieldHeight", Double, 1.5, {23, 23, 26, 32, 41, 41, 41});
+    sized("bezelButtonCornerRadius", Double, 1.0, {2, 2, 2, 3, 5, 5, 5});
+    sized("bezelButtonCornerRadius", Double, 1.5, {3, 3, 3, 4.5, 7.5, 7.5, 7.5});
+    sized("flatButtonCornerRadius", Double, 1.0, {3, 3, 3.5, 4, 5, 6, 6});
+    sized("flatButtonCornerRadius", Double, 1.5, {4.5, 4.5, 5.25, 6, 7.5, 9, 9});
+    sized("viewListButtonTitleInsetsH", Double, 1.0, {3, 3, 16, 7, 9, 9, 9});
+    sized("viewListButtonTitleInsetsH", Double, 1.5, {5, 5, 24, 11, 14, 14, 14});
+    sized("textFieldLabelTextSpacing", Double, 1.0, {3, 3, 5, 4, 6, 6, 6});
+    sized("textFieldLabelTextSpacing", Double, 1.5, {5, 5, 8, 6, 9, 9, 9});
+    sized("vuMeterTickSecondaryOffset", Double, 1.0, {1, 1, 1, 1, 2, 2, 2});
+    sized("vuMeterTickSecondaryOffset", Double, 1.5, {1, 1, 1, 2, 3, 3, 3});
+    sized("ledHeight", Double, 1.0, {9, 9, 11, 13, 15, 20, 20});
+    sized("ledHeight", Double, 1.5, {14, 14, 17, 20, 23, 30, 30});
+    sized("flatButtonHeight", Double, 1.0, {16, 16, 19, 24, 29, 36, 36});
+    sized("flatButtonHeight", Double, 1.5, {24, 24, 29, 36, 44, 54, 54});
+    sized("sliderInsetsH", Double, 1.0, {0, 0, 0, 0, 0, 0, 0});
+    sized("sliderInsetsH", Double, 1.5, {0, 0, 0, 0, 0, 0, 0});
+    sized("marginWindow", Double, 1.0, {10, 10, 10, 20, 20, 20, 20});
+    sized("marginWindow", Double, 1.5, {15, 15, 15, 30, 30, 30, 30});
+    sized("marginPopover", Double, 1.0, {5, 5, 5, 10, 20, 20, 20});
+    sized("marginPopover", Double, 1.5, {8, 8, 8, 15, 30, 30, 30});
+    sized("eqTypeIconHeight", Double, 1.0, {22, 22, 22, 27, 54, 54, 54});
+    sized("eqTypeIconHeight", Double, 1.5, {33, 33, 33, 41, 81, 81, 81});
+    sized("tableViewRowHeight", Double, 1.0, {20, 20, 20, 20, 40, 40, 40});
+    sized("tableViewRowHeight", Double, 1.5, {30, 30, 30, 30, 60, 60, 60});
+    sized("fontSizeTabButton", Int, 1.0, {15, 15, 15, 15, 15, 15, 15});
+    sized("fontSizeTabButton", Int, 1.5, {23, 23, 23, 23, 23, 23, 23});
+    sized("circularProgressThickness", Double, 1.0, {2, 2, 2, 2, 2, 2, 2});
+    sized("circularProgressThickness", Double, 1.5, {3, 3, 3, 3, 3, 3, 3});
+    scaled("zoneIconShadowBlur", Double, {3, 5, 1});
+    scaled("popoverShadowOffsetH", Double, {1, 2, 0});
+    scaled("fontSizeTitlePrimary", Int, {27, 41, 8});
+    scaled("fontSizeLogYLabel", Int, {9, 14, 3});
+    scaled("viewListHeaderMarginBottom", Double, {6, 9, 2});
+    scaled("borderViewCornerRadius", Double, {7, 10.5, 2.1});
+    scaled("popoverCornerRadius", Double, {7, 10.5, 2.1});
+    scaled("ledBorder", Double, {1, 1, 0});
+    scaled("ledGlowRadius", Double, {6, 9, 1.8});
+    scaled("badgeNewHeight", Double, {9, 14, 3});
+    scaled("tableViewBorder", Double, {1, 1, 0});
+    scaled("recordButtonHeight", Double, {37, 56, 11});
+    scaled("textFieldPanningIconHeightMin", Double, {13, 20, 4});
+    scaled("sliderMaxAnglePerSecond", Double, {150, 225, 45});
+    scaled("vuMeterMarginHMin", Double, {2, 2, 0});
+    scaled("vuMeterGlowRadius", Double, {6, 9, 1.8});
+    scaled("eqThumbnailStandardWidth", Double, {92, 138, 28});
+    scaled("graphThumbnailCurveWidth", Double, {2, 2, 0});
+    scaled("graphThumbPressedFontSize", Double, {17, 26, 5});
+    scaled("patchViewLineWidth", Double, {2, 2, 0});
+    scaled("logGraphAxisShadowOffset", Double, {-1, -2, 0});
+    scaled("logGraphBubbleRadius", Double, {10, 15, 3});
+    scaled("logGraphCellDefaultHeight", Double, {161, 242, 48});
+    scaled("imageAdditionalButtonHeightMobile", Double, {37, 56, 11});
+    scaled("imageInMenuHeightMobile", Double, {24, 36, 7});
+    scaled("minControlAmpInHeightOrla", Int, {100, 150, 30});
+    scaled("minSearchFieldWidthOrlaLibrary", Int, {120, 180, 36});
+    fixed("colorIconCornerRadiusRatio", Double, 0.2);
+    fixed("zoneIconKernRatio", Double, -0.2);
+    fixed("typeThumbnailSizeRatio", Double, 1.88);
+    fixed("windowWidthOrlaMain", Int, 1240);
+    fixed("minWindowHeightOrlaLibrary", Int, 200);
+    fixed("popoverHeightOrlaScreenCompIE", Int, 360);
+}
+
+void tst_QmlConstants::recordedMetrics()
+{
+    QFETCH(QByteArray, member);
+    QFETCH(QVariantList, arguments);
+    QFETCH(QVariant, expected);
+
+    const QVariant actual = callMember(member, arguments);
+    QVERIFY2(actual.isValid(), member);
+    QCOMPARE(actual.metaType(), expected.metaType());
+    QCOMPARE(actual.toDouble(), expected.toDouble());
 }
 
 void tst_QmlConstants::genericHelpers_data()
@@ -656,6 +889,124 @@ void tst_QmlConstants::nativeTitleBar()
     QCOMPARE(QtCommons::titlebarAppearance(id), QtCommons::TitlebarAppearance::Dark);
     VynUIQmlConstants::setNativeTitleBarColorForStyle(&window, VynColorUtils::VynStylePrefLight);
     QCOMPARE(QtCommons::titlebarAppearance(id), QtCommons::TitlebarAppearance::Light);
+
+    // Any other integer leaves the title bar alone, as VynStylePrefSystem does.
+    const QMetaMethod setter = VynUIQmlConstants::staticMetaObject.method(
+        VynUIQmlConstants::staticMetaObject.indexOfMethod(
+            "setNativeTitleBarColorForStyle(QWindow*,VynColorUtils::VynStylePreference)"));
+    for (int raw : {-1, 3, std::numeric_limits<int>::max()}) {
+        QVERIFY(
+            invokeWith(setter,
+                       {QVariant::fromValue<QWindow*>(&window),
+                        enumValue(QMetaType::fromType<VynColorUtils::VynStylePreference>(), raw)})
+                .isValid());
+        QCOMPARE(QtCommons::titlebarAppearance(id), QtCommons::TitlebarAppearance::Light);
+    }
+}
+
+void tst_QmlConstants::enumArgumentsOutOfRange_data()
+{
+    QTest::addColumn<int>("methodIndex");
+    QTest::addColumn<int>("parameter");
+    QTest::addColumn<int>("raw");
+    QTest::addColumn<int>("equivalent");
+
+    // Every member that takes an enumeration, every enumeration parameter, with integers
+    // the enumeration does not name: each gives the answer of its documented named value.
+    const int raws[] = {std::numeric_limits<int>::min(), -1, 0, 3, 5, 7, 64, 1000,
+                        std::numeric_limits<int>::max()};
+    const QMetaObject* meta = &VynUIQmlConstants::staticMetaObject;
+    QSet<QByteArray> types;
+    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
+        const QMetaMethod method = meta->method(i);
+        for (int p = 0; p < method.parameterCount(); ++p) {
+            const QMetaType type = method.parameterMetaType(p);
+            if (!(type.flags() & QMetaType::IsEnumeration))
+                continue;
+            const EnumRule* rule = enumRule(type);
+            QVERIFY2(rule, type.name());
+            types.insert(type.name());
+            for (int raw : raws) {
+                if (rule->named.contains(raw))
+                    continue;
+                QTest::addRow("%s/arg %d/%d", method.methodSignature().constData(), p, raw)
+                    << i << p << raw << rule->equivalent(raw, method.name());
+            }
+        }
+    }
+    QCOMPARE(types.size(), int(std::size(kEnumRules)));
+}
+
+void tst_QmlConstants::enumArgumentsOutOfRange()
+{
+    QFETCH(int, methodIndex);
+    QFETCH(int, parameter);
+    QFETCH(int, raw);
+    QFETCH(int, equivalent);
+
+    const QMetaMethod method = VynUIQmlConstants::staticMetaObject.method(methodIndex);
+    QList<QVariant> args;
+    for (int p = 0; p < method.parameterCount(); ++p)
+        args.append(neutralArgument(method.parameterMetaType(p)));
+    const QMetaType type = method.parameterMetaType(parameter);
+
+    args[parameter] = enumValue(type, raw);
+    const QVariant answer = invokeWith(method, args);
+    args[parameter] = enumValue(type, equivalent);
+    const QVariant expected = invokeWith(method, args);
+    QVERIFY(expected.isValid());
+    QVERIFY2(sameAnswer(answer, expected), qPrintable(QDebug::toString(answer)));
+}
+
+void tst_QmlConstants::enumArgumentAnswers_data()
+{
+    QTest::addColumn<QByteArray>("member");
+    QTest::addColumn<QVariantList>("arguments");
+    QTest::addColumn<QVariant>("expected");
+
+    // Integers stand for the enumeration arguments, as in a document.
+    const QRectF rect(1, 2, 30, 40);
+    for (int raw : {0, 3, 7, -1, std::numeric_limits<int>::min()}) {
+        QTest::addRow("other orientation of %d", raw)
+            << QByteArray("alignmentsViewVynOrientationOther") << QVariantList{raw}
+            << QVariant::fromValue(Qt::Vertical);
+        QTest::addRow("size along %d", raw)
+            << QByteArray("alignmentsViewQRectFSizeAlongOrientation") << QVariantList{rect, raw}
+            << QVariant(30.0);
+        QTest::addRow("line along %d", raw)
+            << QByteArray("alignmentsViewQRectFForLine") << QVariantList{0.0, 10.0, 5.0, raw, 2.0}
+            << QVariant(QRectF(0, 4, 10, 2));
+    }
+    QTest::newRow("other orientation of Vertical")
+        << QByteArray("alignmentsViewVynOrientationOther") << QVariantList{2}
+        << QVariant::fromValue(Qt::Horizontal);
+    QTest::newRow("side orientation of -1")
+        << QByteArray("alignmentsViewVynSideOrientation") << QVariantList{-1}
+        << QVariant::fromValue(Qt::Horizontal);
+    QTest::newRow("edge 64 reads the horizontal centre")
+        << QByteArray("alignmentsViewQRectFOrthogonalDimensionForSide") << QVariantList{rect, 64}
+        << QVariant(16.0);
+    QTest::newRow("corners of -1") << QByteArray("cornersForSides") << QVariantList{-1}
+                                   << QVariant::fromValue(VynViewUtils::VynCornerAllCorners);
+    QTest::newRow("corners of Left|Top|64")
+        << QByteArray("cornersForSides") << QVariantList{1 | 2 | 64}
+        << QVariant::fromValue(VynViewUtils::VynCornerTopLeft);
+    QTest::newRow("index of band type -3")
+        << QByteArray("eqIndexForBandType") << QVariantList{-3} << QVariant(-1);
+    QTest::newRow("font size past every size")
+        << QByteArray("fontSize") << QVariantList{std::numeric_limits<int>::max(), 1.0}
+        << QVariant(19);
+}
+
+void tst_QmlConstants::enumArgumentAnswers()
+{
+    QFETCH(QByteArray, member);
+    QFETCH(QVariantList, arguments);
+    QFETCH(QVariant, expected);
+
+    const QVariant answer = callMember(member, arguments);
+    QCOMPARE(answer.metaType(), expected.metaType());
+    QCOMPARE(answer, expected);
 }
 
 void tst_QmlConstants::tickMarkChoice_data()
