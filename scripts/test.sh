@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds everything with warnings as errors, runs every test,
 # then builds again with AddressSanitizer and UndefinedBehaviorSanitizer and runs every test
-# in that build too, and finally runs each fuzzer for a bounded time (scripts/fuzz.sh).
+# in that build too (rendering every gallery page in both styles with leak detection on), and
+# finally runs each fuzzer for a bounded time (scripts/fuzz.sh).
 # Exits non-zero when anything fails.
 #
 #   bash scripts/test.sh              everything
@@ -28,7 +29,7 @@ echo "== Tests"
 if [ "${VYNUI_SKIP_SANITIZE:-0}" != "1" ]; then
     echo "== Build with AddressSanitizer and UndefinedBehaviorSanitizer"
     cmake -S . -B build-sanitize -DVYNUI_WERROR=ON -DVYNUI_SANITIZE=ON \
-        -DCMAKE_BUILD_TYPE=Debug -DVYNUI_BUILD_GALLERY=OFF -DVYNUI_BUILD_BENCHMARKS=OFF
+        -DCMAKE_BUILD_TYPE=Debug -DVYNUI_BUILD_BENCHMARKS=OFF
     cmake --build build-sanitize -j"$jobs"
 
     echo "== Tests under the sanitizers"
