@@ -16,15 +16,21 @@ install(TARGETS QtCommons VynCommon VynUI
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
     INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
-# The module's documents, scripts and images are compiled into the backing library as
-# resources (the qmldir prefers them), so the module directory needs only the plugin, the
-# qmldir and the type information for tooling.
+# The module directory: the plugin, the qmldir, the type information and the documents and
+# scripts the qmldir names, at the paths it names them (qml/<Family>/<file>). The engine
+# loads the copies compiled into the backing library as resources (the qmldir prefers them);
+# the files on disk are what qmllint, qmlls and Qt Creator read to know the module's types.
 install(TARGETS VynUIPlugin
     LIBRARY DESTINATION ${VYNUI_INSTALL_QMLDIR}/VynUI)
 install(FILES
     ${VYNUI_QML_OUTPUT_DIR}/VynUI/qmldir
     ${VYNUI_QML_OUTPUT_DIR}/VynUI/VynUI.qmltypes
     DESTINATION ${VYNUI_INSTALL_QMLDIR}/VynUI)
+foreach(_file ${VYNUI_QML_FILES})
+    get_filename_component(_dir ${_file} DIRECTORY)
+    install(FILES ${PROJECT_SOURCE_DIR}/src/${_file}
+        DESTINATION ${VYNUI_INSTALL_QMLDIR}/VynUI/${_dir})
+endforeach()
 
 install(EXPORT VynUITargets
     NAMESPACE VynUI::

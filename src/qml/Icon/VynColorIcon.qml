@@ -13,6 +13,10 @@ import VynUI 1.2
 // setIndex(i) picks entry i (modulo the palette size) of `colors`, the palette of tints the
 // user chooses from (by default the catalogue's colour factory); a negative index clears the
 // colour. Metrics and colours come from VynUIQmlConstants and scale with vynPixelRatio.
+//
+// The swatch is built from scene-graph items (rounded rectangles, and thin rotated rectangles
+// for the lines), so it draws the same way in every renderer and keeps no painting surface of
+// its own. The lines are cut to the rounded outline of the well by lineSegments().
 Item {
     id: root
 
@@ -48,14 +52,8 @@ Item {
     implicitWidth: size
     implicitHeight: size
 
-    onColorChanged: canvas.requestPaint()
-    onShowsMixedChanged: canvas.requestPaint()
-    onVynStyleChanged: canvas.requestPaint()
-    onColorsChanged: canvas.requestPaint()
-    onVynPixelRatioChanged: canvas.requestPaint()
-
-    Canvas {
-        id: canvas
+    Item {
+        id: swatch
 
         readonly property int style: root.vynStyle
         readonly property real ratio: Math.max(root.vynPixelRatio, 0.1)
@@ -68,87 +66,166 @@ Item {
         readonly property color shadowColor: VynUIQmlConstants.colorIconShadowColorForStyle(style)
         readonly property color clearedColor: VynUIQmlConstants.controlBorderRedColorForStyle(style)
 
-        anchors.fill: parent
-        onWidthChanged: requestPaint()
-        onHeightChanged: requestPaint()
-
-        function borderColorFor(p_tint) {
-            return VynUIQmlConstants.colorIconBorderColorForStyle(p_tint, style)
-        }
+        // The well: the whole width, the height less the shadow below it.
+        readonly property real wellWidth: width
+        readonly property real wellHeight: height - shadowOffset
+        readonly property bool drawable: wellWidth > 0 && wellHeight > 0
+        readonly property real radius: Math.min(wellWidth, wellHeight) * 0.2
 
         function shadowWithAlpha(p_alpha) {
             return Qt.rgba(shadowColor.r, shadowColor.g, shadowColor.b, p_alpha)
         }
 
-        function roundedRect(p_ctx, p_x, p_y, p_w, p_h, p_r) {
-            p_ctx.beginPath()
-            p_ctx.moveTo(p_x + p_r, p_y)
-            p_ctx.arcTo(p_x + p_w, p_y, p_x + p_w, p_y + p_h, p_r)
-            p_ctx.arcTo(p_x + p_w, p_y + p_h, p_x, p_y + p_h, p_r)
-            p_ctx.arcTo(p_x, p_y + p_h, p_x, p_y, p_r)
-            p_ctx.arcTo(p_x, p_y, p_x + p_w, p_y, p_r)
-            p_ctx.closePath()
+        // Whether (p_x, p_y) lies inside the well's rounded outline drawn p_inset inwards.
+        function insideWell(p_x, p_y, p_inset) {
+            const left = p_inset
+            const top = p_inset
+            const right = wellWidth - p_inset
+            const bottom = wellHeight - p_inset
+            const r = Math.max(radius - p_inset, 0)
+            if (p_x < left || p_y < top || p_x > right || p_y > bottom)
+                return false
+            const dx = Math.max(left + r - p_x, 0, p_x - (right - r))
+            const dy = Math.max(top + r - p_y, 0, p_y - (bottom - r))
+            return dx * dx + dy * dy <= r * r
         }
 
-        onPaint: {
-            const ctx = getContext("2d")
-            ctx.reset()
-            const w = width
-            const h = height - shadowOffset
-            if (w <= 0 || h <= 0)
-                return
-            const radius = Math.min(w, h) * 0.2
-            const tint = root.color
-            const hasTint = root.hasColor
-
-            // Drop shadow, visible only along the bottom edge.
-            ctx.fillStyle = shadowColor
-            roundedRect(ctx, 0, shadowOffset, w, h, radius)
-            ctx.fill()
-
-            ctx.save()
-            roundedRect(ctx, 0, 0, w, h, radius)
-            ctx.clip()
-
-            if (root.showsMixed) {
-                ctx.fillStyle = wellColor
-                ctx.fillRect(0, 0, w, h)
-                ctx.strokeStyle = hasTint ? tint : neutral
-                ctx.lineWidth = stripeWidth
-                ctx.beginPath()
-                for (let x = -h; x < w + h; x += stripePeriod) {
-                    ctx.moveTo(x, h)
-                    ctx.lineTo(x + h, 0)
-                }
-                ctx.stroke()
-            } else if (hasTint) {
-                ctx.fillStyle = tint
-                ctx.fillRect(0, 0, w, h)
-            } else {
-                ctx.fillStyle = wellColor
-                ctx.fillRect(0, 0, w, h)
-                ctx.strokeStyle = clearedColor
-                ctx.lineWidth = borderWidth
-                ctx.beginPath()
-                ctx.moveTo(0, h)
-                ctx.lineTo(w, 0)
-                ctx.stroke()
+        // The part of the segment (x1, y1)-(x2, y2) inside the well's outline drawn p_inset
+        // inwards, as the fractions [t0, t1] of its length, or null when it misses it. The
+        // outline is convex, so the inside part is one piece: found by sampling, its ends
+        // refined by bisection.
+        function insideFractions(p_x1, p_y1, p_x2, p_y2, p_inset) {
+            const at = t => insideWell(p_x1 + (p_x2 - p_x1) * t, p_y1 + (p_y2 - p_y1) * t, p_inset)
+            const samples = 32
+            let inside = -1
+            for (let i = 0; i <= samples && inside < 0; ++i) {
+                if (at(i / samples))
+                    inside = i / samples
             }
+            if (inside < 0)
+                return null
+            let outLow = 0, inLow = inside, inHigh = inside, outHigh = 1
+            if (at(0))
+                inLow = 0
+            if (at(1))
+                inHigh = 1
+            for (let k = 0; k < 24; ++k) {
+                if (inLow > 0) {
+                    const middle = (outLow + inLow) / 2
+                    if (at(middle))
+                        inLow = middle
+                    else
+                        outLow = middle
+                }
+                if (inHigh < 1) {
+                    const middle = (inHigh + outHigh) / 2
+                    if (at(middle))
+                        inHigh = middle
+                    else
+                        outHigh = middle
+                }
+            }
+            return [inLow, inHigh]
+        }
 
-            // Faint shade from top to bottom gives the swatch some depth.
-            const shade = ctx.createLinearGradient(0, 0, 0, h)
-            shade.addColorStop(0, shadowWithAlpha(0.05))
-            shade.addColorStop(1, shadowWithAlpha(0.2))
-            ctx.fillStyle = shade
-            ctx.fillRect(0, 0, w, h)
-            ctx.restore()
+        // The lines drawn in the well, cut to its outline: the tint's (or a neutral grey's)
+        // diagonal stripes for a mixed selection, a red diagonal for no colour, none for a
+        // plain tint.
+        function lineSegments() {
+            if (!drawable || (!root.showsMixed && root.hasColor))
+                return []
+            const w = wellWidth
+            const h = wellHeight
+            const lines = []
+            const add = (p_x1, p_y1, p_x2, p_y2, p_color, p_width) => {
+                // Cut half a line width inside the outline, so that the square ends of the
+                // line stay within it.
+                const t = insideFractions(p_x1, p_y1, p_x2, p_y2, p_width / 2)
+                if (!t || t[1] <= t[0])
+                    return
+                const dx = p_x2 - p_x1
+                const dy = p_y2 - p_y1
+                const length = Math.sqrt(dx * dx + dy * dy)
+                const middle = (t[0] + t[1]) / 2
+                lines.push({
+                    "centerX": p_x1 + dx * middle,
+                    "centerY": p_y1 + dy * middle,
+                    "length": length * (t[1] - t[0]),
+                    "angle": Math.atan2(dy, dx) * 180 / Math.PI,
+                    "color": p_color,
+                    "lineWidth": p_width
+                })
+            }
+            if (root.showsMixed) {
+                const tint = root.hasColor ? root.color : neutral
+                for (let x = -h; x < w + h; x += Math.max(stripePeriod, 0.5))
+                    add(x, h, x + h, 0, tint, stripeWidth)
+            } else {
+                add(0, h, w, 0, clearedColor, borderWidth)
+            }
+            return lines
+        }
 
-            const inset = borderWidth / 2
-            ctx.strokeStyle = hasTint ? borderColorFor(tint) : neutral
-            ctx.lineWidth = borderWidth
-            roundedRect(ctx, inset, inset, w - borderWidth, h - borderWidth,
-                        Math.max(radius - inset, 0))
-            ctx.stroke()
+        anchors.fill: parent
+        visible: drawable
+
+        // Drop shadow, visible only along the bottom edge.
+        Rectangle {
+            y: swatch.shadowOffset
+            width: swatch.wellWidth
+            height: swatch.wellHeight
+            radius: swatch.radius
+            color: swatch.shadowColor
+        }
+
+        Rectangle {
+            width: swatch.wellWidth
+            height: swatch.wellHeight
+            radius: swatch.radius
+            color: root.hasColor && !root.showsMixed ? root.color : swatch.wellColor
+        }
+
+        Repeater {
+            model: swatch.lineSegments()
+
+            Rectangle {
+                required property var modelData
+
+                x: modelData.centerX - width / 2
+                y: modelData.centerY - height / 2
+                width: modelData.length
+                height: modelData.lineWidth
+                rotation: modelData.angle
+                color: modelData.color
+                antialiasing: true
+            }
+        }
+
+        // Faint shade from top to bottom gives the swatch some depth.
+        Rectangle {
+            width: swatch.wellWidth
+            height: swatch.wellHeight
+            radius: swatch.radius
+            gradient: Gradient {
+                GradientStop {
+                    position: 0
+                    color: swatch.shadowWithAlpha(0.05)
+                }
+                GradientStop {
+                    position: 1
+                    color: swatch.shadowWithAlpha(0.2)
+                }
+            }
+        }
+
+        Rectangle {
+            width: swatch.wellWidth
+            height: swatch.wellHeight
+            radius: swatch.radius
+            color: "transparent"
+            border.width: swatch.borderWidth
+            border.color: root.hasColor ? VynUIQmlConstants.colorIconBorderColorForStyle(root.color, swatch.style)
+                                        : swatch.neutral
         }
     }
 }

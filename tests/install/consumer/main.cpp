@@ -1,5 +1,5 @@
-// A minimal host: registers the types, opens the module and loads a VynUI document from the
-// installed import path.
+// A minimal host: registers the types, opens the module and loads its own document (Host.qml),
+// which uses the module from the installed import path.
 
 #include <qtcommonsconstants.h>
 #include <vynproxyparampath.h>
@@ -21,10 +21,7 @@ int main(int argc, char** argv)
 
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral(QML_IMPORT_DIR));
-    QQmlComponent component(&engine);
-    component.setData("import QtQuick\nimport VynUI 1.2\n"
-                      "KORU_UI { property int side: VynViewUtils.VynSideRight }",
-                      QUrl());
+    QQmlComponent component(&engine, QUrl::fromLocalFile(QStringLiteral(HOST_DOCUMENT)));
     QObject* item = component.create();
     if (!item) {
         std::fprintf(stderr, "%s\n", qPrintable(component.errorString()));
@@ -32,7 +29,10 @@ int main(int argc, char** argv)
     }
     const bool loaded =
         item->property("testString").toString() == QLatin1String("This is a very big test!") &&
-        item->property("side").toInt() == VynViewUtils::VynSideRight;
+        item->property("side").toInt() == VynViewUtils::VynSideRight &&
+        item->property("title").toString() == QLatin1String("Gain");
+    const bool scripted =
+        item->property("mean").toDouble() == 5.0 && item->property("fieldValue").toDouble() == 5.0;
     const bool opposite =
         VynViewUtils::vynSideOpposite(VynViewUtils::VynSideRight) == VynViewUtils::VynSideLeft;
     const bool localized = QtCommonsConstants::qLocalizedString(
@@ -42,7 +42,7 @@ int main(int argc, char** argv)
         VynProxyParamPath::fromString(QStringLiteral("Amp[1]/Gain")).getLastName() != 0;
     delete item;
     module.onLeavingModule();
-    std::printf("loaded %d, geometry %d, localisation %d, path %d\n", loaded, opposite, localized,
-                path);
-    return loaded && opposite && localized && path ? 0 : 1;
+    std::printf("loaded %d, scripts %d, geometry %d, localisation %d, path %d\n", loaded, scripted,
+                opposite, localized, path);
+    return loaded && scripted && opposite && localized && path ? 0 : 1;
 }
