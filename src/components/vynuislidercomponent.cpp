@@ -84,8 +84,14 @@ void VynUISliderComponent::setValues(const QList<double>& values)
 
 void VynUISliderComponent::setValue(double value, bool mixed, const QList<double>& values)
 {
+    // Slots on valuesChanged() or mixedChanged() may delete the component.
+    const QPointer<VynUISliderComponent> self(this);
     setValues(values);
+    if (!self)
+        return;
     setMixed(mixed);
+    if (!self)
+        return;
     setValueQml(std::max(std::min(value, m_maxValue), m_minValue));
 }
 
@@ -121,8 +127,10 @@ void VynUISliderComponent::setTransformer(VynTransformer* transformer)
 {
     // The previous clone stays a child: texts it made may still be shown.
     m_transformer = transformer ? transformer->clone(this) : nullptr;
+    const QPointer<VynUISliderComponent> self(this);
     emit transformerChanged();
-    refreshStringValue();
+    if (self)
+        refreshStringValue();
 }
 
 QString VynUISliderComponent::toStringValue()
@@ -202,8 +210,11 @@ bool VynUISliderComponent::expectsValue(double p_value, bool p_isRelative, doubl
     // A copy: the validator may install another one while it runs.
     const ValueValidator validator = m_valueValidator;
     double value = p_value;
+    // The validator may delete the component (it answers for it to the host).
+    const QPointer<VynUISliderComponent> self(this);
     const bool accepted = validator(this, value, p_isRelative, p_prevValue, p_isFinal);
-    setValueQml(value);
+    if (self)
+        setValueQml(value);
     return accepted;
 }
 
