@@ -5,6 +5,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QSet>
 
 namespace {
 
@@ -77,9 +78,15 @@ void QCoreWindowController::setWindow(QWindow* window)
 
 QCoreWindowController* QCoreWindowController::controllerForWindow(QWindow* window)
 {
+    // Transient parents can form a cycle (Qt refuses only a window as its own parent): the
+    // walk stops at the first window met twice.
+    QSet<const QWindow*> visited;
     for (QWindow* current = window; current; current = current->transientParent()) {
         if (QCoreWindowController* controller = registry().value(current))
             return controller;
+        if (visited.contains(current))
+            break;
+        visited.insert(current);
     }
     return nullptr;
 }

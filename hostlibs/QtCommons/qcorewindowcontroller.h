@@ -22,7 +22,9 @@ class QQuickWindow;
     Look-ups:
     - controllerForWindow(window): the controller attached to that window, or,
       for a window without one, to its transient parent (a dialog answers for
-      the window it belongs to), else null.
+      the window it belongs to), and so on up the chain of transient
+      parents, else null. The walk ends on any window graph: a cycle of
+      transient parents without a controller answers null.
     - windowForQmlObject(object): the QQuickWindow an object of a QML scene is
       shown in: the object itself when it is a window; else the window of the
       first QQuickItem, or the first QWindow, met going up its QObject parents;

@@ -248,16 +248,22 @@ void QLoggerManager::rotate(Destination& destination)
     const QString suffix = info.suffix().isEmpty() ? QString() : QLatin1Char('.') + info.suffix();
     QString target;
     if (destination.fileDisplay == DateTime) {
-        target = stem + QLatin1Char('_') +
-                 QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss-zzz")) +
-                 suffix;
+        // Two rotations within one millisecond get the same time: the later one takes the
+        // next free "-<n>" after it, so that no rotated file is ever replaced.
+        const QString base =
+            stem + QLatin1Char('_') +
+            QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss-zzz"));
+        target = base + suffix;
+        for (int number = 1; QFile::exists(target); ++number)
+            target = base + QLatin1Char('-') + QString::number(number) + suffix;
     } else {
         int number = 1;
         do {
             target = stem + QLatin1Char('.') + QString::number(number++) + suffix;
         } while (QFile::exists(target));
     }
-    QFile::remove(target);
+    // The target is free. Should the rename fail all the same, the full file is reopened
+    // and appended to rather than lost.
     QFile::rename(destination.filePath, target);
     if (!destination.file->open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) {
         delete destination.file;

@@ -24,7 +24,10 @@ Q_ENUM_NS(LogMode)
 /*!
     How a full log file is renamed before a new one starts. DefaultFileDisplay
     (-1) takes Number: "Module.log" moves to "Module.1.log" (the next free
-    number); DateTime moves it to "Module_20260101-120000-000.log".
+    number); DateTime moves it to "Module_20260101-120000-000.log", or, when a
+    file of that time already exists (rotations within one millisecond), to
+    "Module_20260101-120000-000-1.log", "-2" and so on: a rotation never
+    replaces an earlier file.
 */
 enum LogFileDisplay { DefaultFileDisplay = -1, DateTime = 0, Number = 1 };
 Q_ENUM_NS(LogFileDisplay)

@@ -5,6 +5,7 @@
 #include <qapplicationmessage.h>
 #include <qloggermanager.h>
 
+#include <QMetaEnum>
 #include <QQuickWindow>
 
 #include <cmath>
@@ -39,6 +40,17 @@ void VynUIComponent::logError(const QString& message, const char* function, cons
     }
 }
 
+namespace {
+
+// Whether \a value is one of the enumerators of E (QML hands any integer to an enum
+// property).
+template <typename E> bool isEnumerator(E value)
+{
+    return QMetaEnum::fromType<E>().valueToKey(int(value)) != nullptr;
+}
+
+} // namespace
+
 bool VynUIComponent::refusesNotANumber(double value, const char* function) const
 {
     if (!std::isnan(value))
@@ -49,6 +61,11 @@ bool VynUIComponent::refusesNotANumber(double value, const char* function) const
 
 void VynUIComponent::setComponentType(VynViewUtils::VynUIComponentType type)
 {
+    if (!isEnumerator(type)) {
+        logError(QStringLiteral("Ignored component type %1").arg(int(type)), "setComponentType",
+                 __FILE__, __LINE__);
+        return;
+    }
     if (type == m_componentType)
         return;
     m_componentType = type;
@@ -57,6 +74,11 @@ void VynUIComponent::setComponentType(VynViewUtils::VynUIComponentType type)
 
 void VynUIComponent::setStyle(VynColorUtils::VynStyle style)
 {
+    if (!isEnumerator(style)) {
+        logError(QStringLiteral("Ignored style %1").arg(int(style)), "setStyle", __FILE__,
+                 __LINE__);
+        return;
+    }
     if (style == m_style)
         return;
     m_style = style;
@@ -76,17 +98,27 @@ void VynUIComponent::setSecurityKey(const QString& key)
     if (key == m_securityKey)
         return;
     m_securityKey = key;
+    // A slot on the first signal may delete the component.
+    const QPointer<VynUIComponent> self(this);
     emit securityTypeChanged();
-    emit enabledChanged();
+    if (self)
+        emit enabledChanged();
 }
 
 void VynUIComponent::setSecurityType(VynCommonConstants::VynSecurityType type)
 {
+    if (!isEnumerator(type)) {
+        logError(QStringLiteral("Ignored security type %1").arg(int(type)), "setSecurityType",
+                 __FILE__, __LINE__);
+        return;
+    }
     if (type == m_securityType)
         return;
     m_securityType = type;
+    const QPointer<VynUIComponent> self(this);
     emit securityTypeChanged();
-    emit enabledChanged();
+    if (self)
+        emit enabledChanged();
 }
 
 void VynUIComponent::setSecurityAlertTitleAndMessage(const QString& title, const QString& message)
@@ -153,6 +185,11 @@ void VynUIComponent::setWantsName(bool on)
 
 void VynUIComponent::setNameSize(VynViewUtils::VynControlSize size)
 {
+    if (!isEnumerator(size)) {
+        logError(QStringLiteral("Ignored name size %1").arg(int(size)), "setNameSize", __FILE__,
+                 __LINE__);
+        return;
+    }
     if (size == m_nameSize)
         return;
     m_nameSize = size;

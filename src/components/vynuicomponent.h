@@ -31,6 +31,12 @@
     - `enabled` reads the stored flag AND securityType != VynSecurityTypeDisable.
       setSecurityKey() and setSecurityType() therefore emit
       securityTypeChanged() and then enabledChanged() on every real change.
+    - Slots may delete the component synchronously from any of its signals:
+      a call that emits several signals stops at the first one after which the
+      component is gone.
+    - The enum setters (componentType, style, securityType, nameSize) take
+      only the enumerators of their type: any other integer, which QML can
+      write, is logged as an error and leaves the property unchanged.
     - Every setter compares first (strings by content, the path with !=) and
       emits nothing for an equal value. setNameSize() emits wantsNameChanged();
       setSecurityAlertTitleAndMessage() emits securityAlertChanged() once when

@@ -1,6 +1,9 @@
 #include "vynuicomponentset.h"
 
 #include <QDebug>
+#include <QPointer>
+
+#include <algorithm>
 
 namespace {
 
@@ -16,8 +19,8 @@ VynUIComponentSet::VynUIComponentSet(QObject* parent) : QObject(parent) {}
 VynUIComponentSet::~VynUIComponentSet()
 {
     // The components outlive the set: stop listening to them.
-    for (VynUIComponent* c : std::as_const(m_components))
-        disconnectComponent(c);
+    for (const auto& entry : m_order)
+        disconnectComponent(entry.second);
 }
 
 void VynUIComponentSet::connectComponent(VynUIComponent* c)
@@ -36,18 +39,72 @@ void VynUIComponentSet::disconnectComponent(VynUIComponent* c)
                qOverload<QObject*>(&VynUIComponentSet::onComponentDestroyed));
 }
 
+const QList<VynUIComponent*>& VynUIComponentSet::components() const
+{
+    if (m_componentsStale) {
+        m_components.clear();
+        m_components.reserve(qsizetype(m_order.size()));
+        for (const auto& entry : m_order)
+            m_components.append(entry.second);
+        m_componentsStale = false;
+    }
+    return m_components;
+}
+
+VynUIComponentSet::Filing& VynUIComponentSet::enter(VynUIComponent* c)
+{
+    auto it = m_filings.find(c);
+    if (it == m_filings.end()) {
+        it = m_filings.insert(c, Filing{++m_sequence, {}});
+        m_order.emplace(it->order, c);
+        m_componentsStale = true;
+    }
+    return *it;
+}
+
 void VynUIComponentSet::fileUnder(const VynProxyParamPath& path, VynUIComponent* c)
 {
-    QList<VynUIComponent*>& list = m_byPath[path];
-    if (!list.contains(c))
-        list.append(c);
+    Filing& filing = enter(c);
+    for (const auto& filed : std::as_const(filing.paths)) {
+        if (filed.first == path)
+            return;
+    }
+    const quint64 sequence = ++m_sequence;
+    m_byPath[path].emplace(sequence, c);
+    filing.paths.append({path, sequence});
+}
+
+void VynUIComponentSet::unfile(const VynProxyParamPath& path, quint64 sequence)
+{
+    const auto it = m_byPath.find(path);
+    if (it == m_byPath.end())
+        return;
+    it->erase(sequence);
+    if (it->empty())
+        m_byPath.erase(it);
+}
+
+bool VynUIComponentSet::drop(const QObject* key, QList<VynProxyParamPath>* paths)
+{
+    const auto it = m_filings.constFind(key);
+    if (it == m_filings.cend())
+        return false;
+    const Filing filing = *it;
+    m_filings.erase(it);
+    m_order.erase(filing.order);
+    m_componentsStale = true;
+    for (const auto& filed : filing.paths) {
+        unfile(filed.first, filed.second);
+        if (paths)
+            paths->append(filed.first);
+    }
+    return true;
 }
 
 void VynUIComponentSet::insert(VynUIComponent* c)
 {
-    if (!c || m_components.contains(c))
+    if (!c || m_filings.contains(c))
         return;
-    m_components.append(c);
     fileUnder(c->paramPath(), c);
     connectComponent(c);
 }
@@ -56,11 +113,15 @@ void VynUIComponentSet::insert(const VynProxyParamPath& path, VynUIComponent* c)
 {
     if (!c)
         return;
-    // The path is taken before the connections exist, so this does not re-file c.
-    if (c->paramPath().isEmpty())
+    // The path is taken before the connections exist, so this does not re-file c. A slot
+    // on paramPathChanged() may delete c, or the set.
+    if (c->paramPath().isEmpty()) {
+        const QPointer<VynUIComponent> component(c);
+        const QPointer<VynUIComponentSet> self(this);
         c->setParamPath(path);
-    if (!m_components.contains(c))
-        m_components.append(c);
+        if (!component || !self)
+            return;
+    }
     fileUnder(path, c);
     connectComponent(c);
 }
@@ -73,12 +134,8 @@ void VynUIComponentSet::insert(const QList<VynUIComponent*>& components)
 
 void VynUIComponentSet::remove(VynUIComponent* c)
 {
-    if (!c || !m_components.removeOne(c))
+    if (!c || !drop(c))
         return;
-    for (auto it = m_byPath.begin(); it != m_byPath.end();) {
-        it->removeAll(c);
-        it = it->isEmpty() ? m_byPath.erase(it) : std::next(it);
-    }
     disconnectComponent(c);
 }
 
@@ -90,13 +147,17 @@ void VynUIComponentSet::remove(const QList<VynUIComponent*>& components)
 
 QList<VynUIComponent*> VynUIComponentSet::remove(const VynProxyParamPath& path)
 {
-    const QList<VynUIComponent*> removed = m_byPath.take(path);
+    const QList<VynUIComponent*> removed = getComponents(path);
+    m_byPath.remove(path);
     for (VynUIComponent* c : removed) {
-        bool filedElsewhere = false;
-        for (const QList<VynUIComponent*>& list : std::as_const(m_byPath))
-            filedElsewhere = filedElsewhere || list.contains(c);
-        if (!filedElsewhere) {
-            m_components.removeOne(c);
+        const auto it = m_filings.find(c);
+        if (it == m_filings.end())
+            continue;
+        it->paths.removeIf([&path](const auto& filed) { return filed.first == path; });
+        if (it->paths.isEmpty()) {
+            m_order.erase(it->order);
+            m_filings.erase(it);
+            m_componentsStale = true;
             disconnectComponent(c);
         }
     }
@@ -105,7 +166,14 @@ QList<VynUIComponent*> VynUIComponentSet::remove(const VynProxyParamPath& path)
 
 QList<VynUIComponent*> VynUIComponentSet::getComponents(const VynProxyParamPath& path) const
 {
-    return m_byPath.value(path);
+    QList<VynUIComponent*> list;
+    const auto it = m_byPath.constFind(path);
+    if (it == m_byPath.cend())
+        return list;
+    list.reserve(qsizetype(it->size()));
+    for (const auto& entry : *it)
+        list.append(entry.second);
+    return list;
 }
 
 VynProxyParamPath VynUIComponentSet::getFirstParamPathForComponent(VynUIComponent* c) const
@@ -114,32 +182,44 @@ VynProxyParamPath VynUIComponentSet::getFirstParamPathForComponent(VynUIComponen
         return VynProxyParamPath::EmptyPath;
     if (!c->paramPath().isEmpty())
         return c->paramPath();
-    for (auto it = m_byPath.cbegin(); it != m_byPath.cend(); ++it) {
-        if (it->contains(c))
-            return it.key();
-    }
-    return VynProxyParamPath::EmptyPath;
+    const QList<VynProxyParamPath> paths = getParamPathsForComponent(c);
+    return paths.isEmpty() ? VynProxyParamPath::EmptyPath : paths.first();
 }
 
 QList<VynProxyParamPath> VynUIComponentSet::getParamPathsForComponent(VynUIComponent* c) const
 {
     QList<VynProxyParamPath> paths;
-    for (auto it = m_byPath.cbegin(); it != m_byPath.cend(); ++it) {
-        if (c && it->contains(c))
-            paths.append(it.key());
-    }
+    const auto it = c ? m_filings.constFind(c) : m_filings.cend();
+    if (it == m_filings.cend())
+        return paths;
+    for (const auto& filed : it->paths)
+        paths.append(filed.first);
+    std::sort(paths.begin(), paths.end());
     return paths;
 }
 
 void VynUIComponentSet::updatePath(const VynProxyParamPath& oldPath,
                                    const VynProxyParamPath& newPath)
 {
-    const QList<VynUIComponent*> filed = m_byPath.value(oldPath);
-    for (VynUIComponent* c : filed) {
+    // Giving a component its new path emits its paramPathChanged(), whose slots may delete
+    // that component, a later one of the list, or the set: each is guarded.
+    const QList<VynUIComponent*> filed = getComponents(oldPath);
+    QList<QPointer<VynUIComponent>> guarded;
+    guarded.reserve(filed.size());
+    for (VynUIComponent* c : filed)
+        guarded.append(c);
+    const QPointer<VynUIComponentSet> self(this);
+    for (const QPointer<VynUIComponent>& guard : std::as_const(guarded)) {
+        if (!self)
+            return;
+        VynUIComponent* c = guard.data();
+        if (!c)
+            continue;
         remove(c);
         if (c->paramPath() == oldPath) {
             c->setParamPath(newPath);
-            insert(c);
+            if (guard && self)
+                insert(c);
         } else {
             insert(newPath, c);
         }
@@ -151,9 +231,9 @@ QString VynUIComponentSet::getDescription() const
     QString text = QStringLiteral("VynUIComponentSet(%1)").arg(pointerText(this));
     for (auto it = m_byPath.cbegin(); it != m_byPath.cend(); ++it) {
         text += QStringLiteral("\n  { %1:").arg(it.key().getStringValue());
-        for (VynUIComponent* c : *it)
-            text += QString::asprintf("%s(%8p)", c->metaObject()->className(),
-                                      static_cast<const void*>(c));
+        for (const auto& entry : *it)
+            text += QString::asprintf("%s(%8p)", entry.second->metaObject()->className(),
+                                      static_cast<const void*>(entry.second));
         text += QStringLiteral(" }");
     }
     return text;
@@ -171,20 +251,18 @@ void VynUIComponentSet::onComponentParamPathChanged()
 
 void VynUIComponentSet::onComponentDestroyed(QObject* p_sender)
 {
-    // The object is being destroyed: it is no longer a VynUIComponent. Compare addresses as
-    // QObject pointers only, never cast down to it or call into it.
-    auto isSender = [p_sender](VynUIComponent* c) { return static_cast<QObject*>(c) == p_sender; };
-    if (!p_sender || m_components.removeIf(isSender) == 0)
+    // The object is being destroyed: it is no longer a VynUIComponent. It is looked up by
+    // its QObject address only, never cast down to or called into.
+    QList<VynProxyParamPath> paths;
+    if (!p_sender || !drop(p_sender, &paths))
         return;
-    for (auto it = m_byPath.begin(); it != m_byPath.end();) {
-        if (it->removeIf(isSender) > 0) {
-            // qDebug() writes to the logging category "default".
-            qDebug().noquote() << "WARNING VynUIComponentSet::onComponentDestroyed: UI "
-                                  "component was destroyed without being removed from its "
-                                  "component set:"
-                               << p_sender << it.key().getStringValue();
-        }
-        it = it->isEmpty() ? m_byPath.erase(it) : std::next(it);
+    std::sort(paths.begin(), paths.end());
+    for (const VynProxyParamPath& path : std::as_const(paths)) {
+        // qDebug() writes to the logging category "default".
+        qDebug().noquote() << "WARNING VynUIComponentSet::onComponentDestroyed: UI "
+                              "component was destroyed without being removed from its "
+                              "component set:"
+                           << p_sender << path.getStringValue();
     }
 }
 

@@ -6,10 +6,13 @@
 
 #include <vynproxyparampath.h>
 
+#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QObject>
 #include <QString>
+
+#include <map>
 
 /*!
     The host's index of component models by parameter path: every component
@@ -24,6 +27,18 @@
 
     Paths order as VynProxyParamPath orders them. Entries whose list becomes
     empty are erased. Null and unknown components are ignored by every operation.
+
+    Cost: the set keeps, for every component, the paths it is filed under, and
+    every list in insertion order under a sequence number, so that inserting,
+    removing, re-filing and contains() cost O(log n) whatever the number of
+    components under one path; components() rebuilds its list once after a
+    change (O(n)).
+
+    Host slots may delete a component synchronously from inside the set's own
+    calls (for instance from paramPathChanged() while updatePath() or
+    insert(path, c) gives the component its new path): the set stops working on
+    a component as soon as it is destroyed, and drops it as it drops any
+    destroyed component.
 */
 class VYNUI_EXPORT VynUIComponentSet : public QObject
 {
@@ -46,8 +61,8 @@ public:
     QList<VynUIComponent*> remove(const VynProxyParamPath& path);
 
     QList<VynUIComponent*> getComponents(const VynProxyParamPath& path) const;
-    const QList<VynUIComponent*>& components() const { return m_components; }
-    bool contains(VynUIComponent* c) const { return m_components.contains(c); }
+    const QList<VynUIComponent*>& components() const;
+    bool contains(VynUIComponent* c) const { return c && m_filings.contains(c); }
     QList<VynProxyParamPath> paths() const { return m_byPath.keys(); }
 
     VynProxyParamPath getFirstParamPathForComponent(VynUIComponent* c) const;
@@ -69,10 +84,31 @@ public slots:
     void onComponentDestroyed();
 
 private:
+    // A list in insertion order: sequence number of the insertion -> component.
+    using Ordered = std::map<quint64, VynUIComponent*>;
+    // Where a component is: its place in components() and the paths it is filed under,
+    // each with the sequence number of its place in that path's list.
+    struct Filing
+    {
+        quint64 order = 0;
+        QList<QPair<VynProxyParamPath, quint64>> paths;
+    };
+
     void connectComponent(VynUIComponent* c);
     void disconnectComponent(VynUIComponent* c);
+    //! Adds \a c to components() when absent; returns its filing.
+    Filing& enter(VynUIComponent* c);
     void fileUnder(const VynProxyParamPath& path, VynUIComponent* c);
+    //! Takes the component keyed \a key out of every list; false when it was not in the set.
+    bool drop(const QObject* key, QList<VynProxyParamPath>* paths = nullptr);
+    void unfile(const VynProxyParamPath& path, quint64 sequence);
 
-    QList<VynUIComponent*> m_components;
-    QMap<VynProxyParamPath, QList<VynUIComponent*>> m_byPath;
+    // Keyed by QObject address so that a component being destroyed (no longer a
+    // VynUIComponent) is still found without a cast.
+    QHash<const QObject*, Filing> m_filings;
+    Ordered m_order;
+    QMap<VynProxyParamPath, Ordered> m_byPath;
+    quint64 m_sequence = 0;
+    mutable QList<VynUIComponent*> m_components;
+    mutable bool m_componentsStale = false;
 };

@@ -4,6 +4,7 @@
 #include <vyncommonconstants.h>
 
 #include <QJSEngine>
+#include <QPointer>
 
 VynUISlideFieldComponent::VynUISlideFieldComponent(QObject* parent, bool p_enableLogs)
     : VynUISliderComponent(parent, false)
@@ -59,10 +60,12 @@ void VynUISlideFieldComponent::setUnits(const QStringList& units)
     const bool allowedBefore = allowsUnitChoosing();
     const int indexBefore = unitIndex();
     m_units = units;
+    const QPointer<VynUISlideFieldComponent> self(this);
     emit unitsChanged();
-    if (unitIndex() != indexBefore)
+    if (self && unitIndex() != indexBefore)
         emit unitIndexChanged();
-    setAllowsUnitChoosingFrom(allowedBefore);
+    if (self)
+        setAllowsUnitChoosingFrom(allowedBefore);
 }
 
 int VynUISlideFieldComponent::unitIndex() const
@@ -103,23 +106,34 @@ void VynUISlideFieldComponent::watchTransformer()
 
 void VynUISlideFieldComponent::onTransformerUnitChanged()
 {
+    const QPointer<VynUISlideFieldComponent> self(this);
     refreshStringValue();
-    emit unitIndexChanged();
-    emit displayedValueChanged();
-    emit minValueChanged();
-    emit maxValueChanged();
+    if (self)
+        emit unitIndexChanged();
+    if (self)
+        emit displayedValueChanged();
+    if (self)
+        emit minValueChanged();
+    if (self)
+        emit maxValueChanged();
 }
 
 void VynUISlideFieldComponent::setTransformer(VynTransformer* transformer)
 {
     const int indexBefore = unitIndex();
+    const QPointer<VynUISlideFieldComponent> self(this);
     VynUISliderComponent::setTransformer(transformer);
+    if (!self)
+        return;
     watchTransformer();
     if (unitIndex() != indexBefore)
         emit unitIndexChanged();
-    emit displayedValueChanged();
-    emit minValueChanged();
-    emit maxValueChanged();
+    if (self)
+        emit displayedValueChanged();
+    if (self)
+        emit minValueChanged();
+    if (self)
+        emit maxValueChanged();
 }
 
 void VynUISlideFieldComponent::setUnit(int p_index, bool p_force)
@@ -177,8 +191,9 @@ void VynUISlideFieldComponent::expectsUnit(QString p_unit)
 
 bool VynUISlideFieldComponent::shouldBeginSliding()
 {
+    const QPointer<VynUISlideFieldComponent> self(this);
     const bool allowed = VynUISliderComponent::shouldBeginSliding();
-    if (allowed)
+    if (allowed && self)
         emit scheduleSlideFieldPanHint();
     return allowed;
 }
@@ -186,9 +201,11 @@ bool VynUISlideFieldComponent::shouldBeginSliding()
 bool VynUISlideFieldComponent::expectsValue(double p_value, bool p_isRelative, double p_prevValue,
                                             bool p_isFinal)
 {
+    // The validator, or a slot on valueChanged(), may delete the component.
+    const QPointer<VynUISlideFieldComponent> self(this);
     const bool accepted = VynUISliderComponent::expectsValue(p_value, p_isRelative || m_relative,
                                                              p_prevValue, p_isFinal);
-    if (accepted && p_isFinal && !sliding())
+    if (self && accepted && p_isFinal && !sliding())
         emit scheduleSlideFieldTextHint();
     return accepted;
 }

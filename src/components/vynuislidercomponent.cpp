@@ -119,8 +119,14 @@ void VynUISliderComponent::setValue(double value, bool mixed, const QList<double
     // One refusal for the whole echo: nothing of a half-valid echo is stored.
     if (refusesNotANumber(std::isnan(value) ? value : firstNotANumber(values), "setValue"))
         return;
+    // Slots on valuesChanged() or mixedChanged() may delete the component.
+    const QPointer<VynUISliderComponent> self(this);
     setValues(values);
+    if (!self)
+        return;
     setMixed(mixed);
+    if (!self)
+        return;
     setValueQml(std::max(std::min(value, m_maxValue), m_minValue));
 }
 
@@ -159,8 +165,10 @@ void VynUISliderComponent::setTransformer(VynTransformer* transformer)
 {
     // The previous clone stays a child: texts it made may still be shown.
     m_transformer = transformer ? transformer->clone(this) : nullptr;
+    const QPointer<VynUISliderComponent> self(this);
     emit transformerChanged();
-    refreshStringValue();
+    if (self)
+        refreshStringValue();
 }
 
 QString VynUISliderComponent::toStringValue()
@@ -244,7 +252,11 @@ bool VynUISliderComponent::expectsValue(double p_value, bool p_isRelative, doubl
     // A copy: the validator may install another one while it runs.
     const ValueValidator validator = m_valueValidator;
     double value = p_value;
+    // The validator may delete the component (it answers for it to the host).
+    const QPointer<VynUISliderComponent> self(this);
     const bool accepted = validator(this, value, p_isRelative, p_prevValue, p_isFinal);
+    if (!self)
+        return accepted;
     // A validator that answers NaN refuses: the value stays as it was.
     if (refusesNotANumber(value, "expectsValue"))
         return false;

@@ -52,6 +52,11 @@
     replace the value. A component created outside any QML engine passes null
     as the component argument.
 
+    The host may delete the component synchronously from a validator or from
+    any of its signals (valuesChanged() in setValue(), valueChanged() in
+    expectsValue(), ...): the call then returns at once, expectsValue() and
+    shouldBeginSliding() with the validator's answer.
+
     Transformer: setTransformer(t) keeps t's clone as a child and emits
     transformerChanged(); null removes the transformer (stringValue then
     writes the bare number). Replaced clones stay children of the component

@@ -1,5 +1,7 @@
 #include "vynlabeloptimizer.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <cmath>
 
@@ -109,7 +111,11 @@ void VynLabelOptimizer::optimizeIfNeeded()
         std::stable_sort(m_labels.begin(), m_labels.end(), positionLess);
         // A copy: slots on the labels' signals may add or remove labels meanwhile.
         const QList<VynOptimizedLabel*> labels = m_labels;
+        // Slots on the labels' signals may also delete the optimizer.
+        const QPointer<VynLabelOptimizer> self(this);
         VynOptimizedLabel::optimize(labels, m_positionMin, m_positionMax);
+        if (!self)
+            return;
         if (!m_placementPending)
             break;
     }

@@ -26,7 +26,9 @@
     new placement. A placement requested from a slot while a placement is
     running (for instance by a slot on a label's change signal that moves
     another label) is not nested: it runs again once the current one has
-    finished, at most eight times in a row.
+    finished, at most eight times in a row. Slots on the labels' signals may
+    also delete labels, or the optimizer itself, synchronously: a placement
+    whose optimizer is gone ends after its labels have emitted.
 */
 class VYNUI_EXPORT VynLabelOptimizer : public QObject
 {

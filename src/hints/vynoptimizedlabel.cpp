@@ -1,5 +1,7 @@
 #include "vynoptimizedlabel.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -305,11 +307,27 @@ void VynOptimizedLabel::optimize(const QList<VynOptimizedLabel*>& labels, double
         }
     }
 
+    // Slots on these signals may delete any label of the list (or what owns it), the one
+    // emitting included: the labels due to emit are guarded, and one deleted meanwhile emits
+    // nothing more.
+    struct Pending
+    {
+        QPointer<VynOptimizedLabel> label;
+        bool visibleChanged;
+        bool positionChanged;
+    };
+    std::vector<Pending> pending;
     for (VynOptimizedLabel* label : labels) {
-        if (label->m_visible != label->m_previousVisible)
-            emit label->visibleChanged();
-        if (!(label->m_delta == label->m_previousDelta))
-            emit label->optimizedPositionChanged();
+        const bool visibleChanged = label->m_visible != label->m_previousVisible;
+        const bool positionChanged = !(label->m_delta == label->m_previousDelta);
+        if (visibleChanged || positionChanged)
+            pending.push_back({label, visibleChanged, positionChanged});
+    }
+    for (const Pending& p : pending) {
+        if (p.visibleChanged && p.label)
+            emit p.label->visibleChanged();
+        if (p.positionChanged && p.label)
+            emit p.label->optimizedPositionChanged();
     }
 }
 

@@ -51,8 +51,10 @@
     relaxation and hiding functions change deltas and visibility without
     emitting signals; only optimize() emits.
 
-    Slots connected to the change signals must not delete labels of the list
-    being placed synchronously (use deleteLater()).
+    Slots connected to the change signals emitted by optimize() may delete
+    labels of the list synchronously, the emitting one included: a deleted
+    label emits nothing more, and the others still emit theirs. The list
+    itself must then not be used again by the caller.
 */
 class VYNUI_EXPORT VynOptimizedLabel : public QObject
 {

@@ -7,6 +7,7 @@
 
 #include <cfloat>
 #include <cmath>
+#include <limits>
 
 namespace VynViewUtils {
 
@@ -30,9 +31,14 @@ QString localizedMultiple()
 
 // floor(v / step) * step with the quotient floored in single precision; a quotient of
 // magnitude 2^23 or more has no fraction left in single precision and is used as it is.
+// Expects a finite step > 0. A value whose quotient is not finite in single precision (a
+// non-finite value, or one too large for the step) is left as it is.
 double snapDown(double v, double step)
 {
-    float quotient = static_cast<float>(v / step);
+    const double exact = v / step;
+    if (!(std::fabs(exact) <= double(std::numeric_limits<float>::max())))
+        return v;
+    float quotient = static_cast<float>(exact);
     if (std::fabs(quotient) < 8388608.0f)
         quotient = std::floor(quotient);
     return static_cast<double>(quotient) * step;
@@ -308,6 +314,8 @@ QRectF qRectFAlignedOnGrid(const QRectF& rect, double step, const VynResizeAncho
 {
     Q_UNUSED(anchor)
     Q_UNUSED(unused)
+    if (!(step > 0.0) || !std::isfinite(step))
+        return rect;
     const double x = snapDown(rect.x(), step);
     const double y = snapDown(rect.y(), step);
     double w = rect.width();

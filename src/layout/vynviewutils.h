@@ -388,6 +388,10 @@ VYNUI_EXPORT QSizeF qRectFGetMinResizeFactors(const QRectF& rect, const QSizeF& 
     quotient floored in single precision. The origin is snapped first; the bottom and right
     edges are snapped as g(h + y') and g(w + x'), adding the unsnapped size to the snapped
     origin. The anchor and the last flag are accepted and ignored.
+    Every input gives a defined result: a step that is not a finite number greater than 0
+    (0, negative, NaN, infinite) leaves the rectangle as it is, and so does each value
+    (coordinate or edge) that is not finite or whose quotient by the step lies beyond the
+    single-precision range.
 */
 VYNUI_EXPORT QRectF qRectFAlignedOnGrid(const QRectF& rect, double step,
                                         const VynResizeAnchor& anchor, bool alignWidth,

@@ -120,9 +120,19 @@ void rgbFromLab(const Lab& lab, double& r, double& g, double& b)
     b = std::clamp(srgbFromLinear(std::max(lb, 0.0)), 0.0, 1.0);
 }
 
+// QColor's floating-point constructors turn their arguments into integers or half floats:
+// no NaN and no value beyond those ranges may reach them. A NaN counts as 0, and a value
+// is kept within ±65504 (the range of the half floats of extended-range channels).
+float colorArgument(double value)
+{
+    if (std::isnan(value))
+        return 0.0f;
+    return float(std::clamp(value, -65504.0, 65504.0));
+}
+
 QColor fromRgbF(double r, double g, double b, double a)
 {
-    return QColor::fromRgbF(float(r), float(g), float(b), float(a));
+    return QColor::fromRgbF(colorArgument(r), colorArgument(g), colorArgument(b), colorArgument(a));
 }
 
 } // namespace

@@ -47,16 +47,26 @@ double clamp01(double value)
     return value > 1.0 ? 1.0 : value;
 }
 
+// QColor's floating-point constructors turn their arguments into integers or half floats:
+// no NaN and no value beyond those ranges may reach them. A NaN counts as 0, and a value
+// is kept within ±65504 (the range of the half floats of extended-range channels).
+float colorArgument(double value)
+{
+    if (std::isnan(value))
+        return 0.0f;
+    return float(std::clamp(value, -65504.0, 65504.0));
+}
+
 QColor fromHsva(double h, double s, double v, double a)
 {
-    // QColor takes −1 as "no hue"; any other hue must lie in [0, 1].
-    const float hue = h < 0.0 ? -1.0f : float(std::min(h, 1.0));
+    // QColor takes −1 as "no hue"; any other hue must lie in [0, 1]. A NaN hue is no hue.
+    const float hue = !(h >= 0.0) ? -1.0f : float(std::min(h, 1.0));
     return QColor::fromHsvF(hue, float(clamp01(s)), float(clamp01(v)), float(clamp01(a)));
 }
 
 QColor fromRgba(double r, double g, double b, double a)
 {
-    return QColor::fromRgbF(float(r), float(g), float(b), float(a));
+    return QColor::fromRgbF(colorArgument(r), colorArgument(g), colorArgument(b), colorArgument(a));
 }
 
 // Hue minus d, wrapped into [0, 1); no hue stays no hue.

@@ -26,7 +26,9 @@
     pointer and a count do the same with the count given; a null table or a
     count of 0 gives an invalid QColor.
 
-    An invalid QColor given as input reads as transparent black. Results are
+    An invalid QColor given as input reads as transparent black. Numbers that
+    are not finite give defined colours: a NaN reaching a channel or the alpha
+    counts as 0, a NaN hue as no hue, and channels are kept within ±65504. Results are
     built with QColor's floating-point constructors (16 bits per channel), so
     table values come back to within 1/65535.
 

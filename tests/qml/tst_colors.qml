@@ -53,7 +53,10 @@ TestCase {
             { tag: "colour value", color: Qt.rgba(0.2, 0.4, 0.6, 0.3), alpha: 1, rgba: [0.2, 0.4, 0.6, 1] },
             { tag: "alpha above one", color: "#0000ff", alpha: 3, rgba: [0, 0, 1, 1] },
             { tag: "alpha below zero", color: "#00ff00", alpha: -1, rgba: [0, 1, 0, 0] },
-            { tag: "not a colour", color: "no such colour", alpha: 0.5, rgba: [0, 0, 0, 0.5] }
+            { tag: "not a colour", color: "no such colour", alpha: 0.5, rgba: [0, 0, 0, 0.5] },
+            { tag: "NaN alpha", color: "#ff0000", alpha: NaN, rgba: [1, 0, 0, 0] },
+            { tag: "undefined alpha", color: "#ff0000", alpha: undefined, rgba: [1, 0, 0, 0] },
+            { tag: "infinite alpha", color: "#ff0000", alpha: Infinity, rgba: [1, 0, 0, 1] }
         ]
     }
 
@@ -67,7 +70,8 @@ TestCase {
             { tag: "lighter", color: Qt.hsla(0.5, 0.5, 0.5, 0.8), offset: 0.2, hsla: [0.5, 0.5, 0.7, 0.8] },
             { tag: "darker", color: Qt.hsla(0.25, 1, 0.5, 1), offset: -0.3, hsla: [0.25, 1, 0.2, 1] },
             { tag: "clamped at white", color: Qt.hsla(0.1, 0.4, 0.9, 1), offset: 0.5, hsla: [-1, 0, 1, 1] },
-            { tag: "clamped at black", color: "#336699", offset: -2, hsla: [-1, 0, 0, 1] }
+            { tag: "clamped at black", color: "#336699", offset: -2, hsla: [-1, 0, 0, 1] },
+            { tag: "NaN offset: black", color: "#336699", offset: NaN, hsla: [-1, 0, 0, 1] }
         ]
     }
 
@@ -86,7 +90,9 @@ TestCase {
             { tag: "double", color: Qt.rgba(0.5, 0.2, 0.1, 0.6), factor: 2, rgba: [1, 0.4, 0.2, 0.6] },
             { tag: "half", color: "#ffffff", factor: 0.5, rgba: [0.5, 0.5, 0.5, 1] },
             { tag: "clamped", color: Qt.rgba(0.8, 0.1, 0, 1), factor: 2, rgba: [1, 0.2, 0, 1] },
-            { tag: "zero keeps alpha", color: Qt.rgba(0.8, 0.1, 0.3, 0.25), factor: 0, rgba: [0, 0, 0, 0.25] }
+            { tag: "zero keeps alpha", color: Qt.rgba(0.8, 0.1, 0.3, 0.25), factor: 0, rgba: [0, 0, 0, 0.25] },
+            { tag: "NaN factor: black, alpha kept", color: Qt.rgba(0.8, 0.1, 0.3, 0.25), factor: NaN, rgba: [0, 0, 0, 0.25] },
+            { tag: "infinite factor: zero channels stay 0", color: Qt.rgba(0.8, 0, 0, 1), factor: Infinity, rgba: [1, 0, 0, 1] }
         ]
     }
 

@@ -107,6 +107,28 @@ TestCase {
         compare(slider.value, 2)
     }
 
+    // Multiples of the step, kept inside [from, to] and free of float noise.
+    function test_stepRoundingStaysInRange_data() {
+        return [
+            { tag: "0.4 x 3 past the end steps back", from: 0, to: 1, step: 0.4, value: 1, expected: 0.8 },
+            { tag: "0.4 x 3 at the end", from: 0, to: 1.2, step: 0.4, value: 1.2, expected: 1.2 },
+            { tag: "no trail from the product", from: 0, to: 10, step: 0.1, value: 0.3, expected: 0.3 },
+            { tag: "tie read through the noise", from: 0, to: 1, step: 0.2, value: 0.3, expected: 0.4 },
+            { tag: "below the start steps up", from: 0.3, to: 3, step: 1, value: 0.3, expected: 1 },
+            { tag: "negative, past the start steps back", from: -1, to: 0, step: 0.4, value: -1, expected: -0.8 },
+            { tag: "no multiple inside: clamped", from: 0.1, to: 0.3, step: 1, value: 0.25, expected: 0.25 },
+            { tag: "no multiple inside, beyond: clamped", from: 0.1, to: 0.3, step: 1, value: 5, expected: 0.3 }
+        ]
+    }
+
+    function test_stepRoundingStaysInRange(data) {
+        const slider = makeSlider({ "from": data.from, "to": data.to, "stepSize": data.step })
+        slider.setValue(data.value)
+        compare(slider.value, data.expected)
+        verify(slider.value >= Math.min(data.from, data.to) && slider.value <= Math.max(data.from, data.to))
+        compare(slider.displayedValue, slider.value)
+    }
+
     function test_doubleClickSetsDefault() {
         const slider = makeSlider({ "defaultValue": 0.5 })
         slider.setValue(0.2)

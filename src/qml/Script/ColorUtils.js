@@ -6,7 +6,8 @@
 // A stateless shared library. Every function accepts a colour value or any text QML reads as
 // a colour ("#1f82e0", "red") and returns a new colour; the argument is never changed. Text
 // that is not a colour reads as transparent black. Results are clamped into [0, 1] per
-// channel, as Qt.rgba() and Qt.hsla() do.
+// channel, as Qt.rgba() and Qt.hsla() do; an alpha, offset or factor that is not a number
+// (NaN) makes the channels it reaches 0.
 
 // Any colour-like value as a colour value: a tint with a transparent colour is the base
 // colour itself, converted without loss. Qt.tint() answers null for what is not a colour.
@@ -15,8 +16,12 @@ function toColor(p_color) {
     return c ? c : Qt.rgba(0, 0, 0, 0)
 }
 
+// p_value within [0, 1]; what does not read as a number (NaN, undefined) gives 0.
 function clampUnit(p_value) {
-    return Math.min(Math.max(p_value, 0), 1)
+    const value = Number(p_value)
+    if (!(value >= 0))
+        return 0
+    return Math.min(value, 1)
 }
 
 // The colour's red, green and blue with the alpha p_alpha (in [0, 1]).

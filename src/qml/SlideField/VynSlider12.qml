@@ -111,6 +111,10 @@ VynItem {
         root.value = average
     }
 
+    // Sets the value, clamped to [from, to] when truncating. With a positive stepSize and
+    // rounding, virtualValue takes the unrounded value and value the nearest multiple of
+    // stepSize (the grid of multiples of stepSize, whatever `from` is; ties go up in
+    // magnitude, the sign is kept, see _roundedToStep()).
     function setValue(p_value, p_truncate = true, p_roundToStep = true) {
         if (isNaN(p_value)) {
             console.warn("VynSlider12: refused a value that is not a number")
@@ -119,10 +123,39 @@ VynItem {
         let v = p_truncate ? _clamped(p_value) : p_value
         if (stepSize > 0 && p_roundToStep) {
             virtualValue = v
-            v = (v < 0 ? -1 : 1) * Math.floor(Math.abs(v) / stepSize + 0.5) * stepSize
+            v = _roundedToStep(v, p_truncate)
         }
         value = v
         displayedValue = value
+    }
+
+    // The multiple of stepSize nearest to p_value: ties go up in magnitude and the sign is
+    // kept (a small negative value gives -0). Quotient and product are read to 15
+    // significant digits, so that float noise neither breaks a tie (0.6 / 0.2) nor leaves a
+    // trail (0.4 x 3 is 1.2, not 1.2000000000000002). With p_keepInRange, a multiple outside
+    // [from, to] steps back one step towards the range; a range without any multiple inside
+    // gives the clamped value instead. A value that is not finite is returned as it is.
+    function _roundedToStep(p_value, p_keepInRange) {
+        if (!isFinite(p_value) || !(stepSize > 0) || !isFinite(stepSize))
+            return p_value
+        const clean = function (p_x) {
+            return parseFloat(p_x.toPrecision(15))
+        }
+        const sign = p_value < 0 ? -1 : 1
+        let count = sign * Math.floor(clean(Math.abs(p_value) / stepSize) + 0.5)
+        const multiple = function (p_count) {
+            return p_count === 0 ? sign * 0 : clean(p_count * stepSize)
+        }
+        if (!p_keepInRange)
+            return multiple(count)
+        const low = Math.min(from, to)
+        const high = Math.max(from, to)
+        if (multiple(count) > high)
+            --count
+        else if (multiple(count) < low)
+            ++count
+        const v = multiple(count)
+        return v >= low && v <= high ? v : _clamped(p_value)
     }
 
     // Moves the value by p_count increments (stepSize, or a tenth of the range), with the

@@ -82,6 +82,8 @@ private slots:
     void compositing();
     void stopLists_data();
     void stopLists();
+    void nonFiniteArithmetic_data();
+    void nonFiniteArithmetic();
 };
 
 void TestColorUtils::rgbColorFromString_data()
@@ -466,6 +468,59 @@ void TestColorUtils::stopLists()
                              float(0.7 * (1 - s) + 0.25 * s), float(std::max(0.0, 1 - 0.5 * s)));
         COMPARE_COLOR(colors.at(i), expected);
     }
+}
+
+void TestColorUtils::nonFiniteArithmetic_data()
+{
+    // Arithmetic that produces NaN or infinite channels, alphas or hues: each gives the
+    // documented colour (NaN counts as 0, a NaN hue as no hue, channels within ±65504).
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<QColor>("expected");
+
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double inf = std::numeric_limits<double>::infinity();
+    QTest::newRow("affine, NaN scale") << "affine" << nan << 0.0 << rgba(0, 0, 0, 1);
+    QTest::newRow("affine, NaN offset") << "affine" << 1.0 << nan << rgba(0, 0, 0, 1);
+    QTest::newRow("affine, NaN alpha") << "affineAlpha" << nan << 0.0 << rgba(1, 0.5, 0, 0);
+    QTest::newRow("affine, infinite offset")
+        << "affine" << 1.0 << -inf << rgba(0, 0, 0, 1); // -inf clamped, then read as 0..1
+    QTest::newRow("brightness NaN") << "brightness" << nan << 0.0 << rgba(0, 0, 0, 1);
+    QTest::newRow("saturation NaN: grey") << "saturation" << nan << 0.0 << rgba(1, 1, 1, 1);
+    QTest::newRow("glow, NaN alpha") << "glow" << nan << 0.0 << QColor();
+}
+
+void TestColorUtils::nonFiniteArithmetic()
+{
+    QFETCH(QString, operation);
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(QColor, expected);
+
+    const QColor orange = rgba(1, 0.5, 0);
+    QColor result;
+    if (operation == "affine")
+        result = VynColorUtils::colorWithRGBAffineTransformA(orange, x, y, 1.0);
+    else if (operation == "affineAlpha")
+        result = VynColorUtils::colorWithRGBAffineTransformA(orange, 1.0, y, x);
+    else if (operation == "brightness")
+        result = VynColorUtils::colorBySettingBrightness(orange, x);
+    else if (operation == "saturation")
+        result = VynColorUtils::colorBySettingSaturation(orange, x);
+    else if (operation == "glow")
+        result = VynColorUtils::glowColorWithAlpha(orange, x);
+    if (!expected.isValid()) {
+        // Only defined-ness is pinned: a valid colour with finite channels.
+        QVERIFY(result.isValid());
+        QVERIFY(std::isfinite(result.redF()) && std::isfinite(result.alphaF()));
+        return;
+    }
+    QVERIFY2(sameColor(result.toRgb(), expected), qPrintable(QStringLiteral("%1 %2 %3 %4")
+                                                                 .arg(result.redF())
+                                                                 .arg(result.greenF())
+                                                                 .arg(result.blueF())
+                                                                 .arg(result.alphaF())));
 }
 
 QTEST_APPLESS_MAIN(TestColorUtils)

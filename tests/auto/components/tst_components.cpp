@@ -20,6 +20,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <limits>
+
 using Security = VynCommonConstants::VynSecurityType;
 
 namespace {
@@ -140,6 +142,8 @@ private slots:
     void settersIgnoreEqualValues();
     void signalCouplings();
     void restoreCopiesInOrder();
+    void enumPropertiesTakeOnlyEnumerators_data();
+    void enumPropertiesTakeOnlyEnumerators();
     void confirmation_data();
     void confirmation();
     void confirmationFindsControllerInScene();
@@ -152,6 +156,8 @@ private slots:
     void setDestroyedComponentWarns();
     void setUpdatePathAndRemovePath();
     void setDescription();
+    void setSurvivesDeletionFromPathSignal_data();
+    void setSurvivesDeletionFromPathSignal();
 
     // Slider
     void sliderFirstValueFormats();
@@ -173,6 +179,8 @@ private slots:
     void slideFieldChooseUnit();
     void slideFieldRelativeAndHints();
     void slideFieldWithoutTransformer();
+    void sliderSurvivesDeletionFromHost_data();
+    void sliderSurvivesDeletionFromHost();
 
 private:
     QTemporaryDir m_logs;
@@ -311,6 +319,46 @@ void tst_Components::restoreCopiesInOrder()
     copy.setEnabled(false);
     copy.restoreFromUIComponent(&disabledBySecurity);
     QVERIFY(copy.storedEnabled());
+}
+
+void tst_Components::enumPropertiesTakeOnlyEnumerators_data()
+{
+    // Written as QML writes them: any integer through the property system.
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<bool>("accepted");
+
+    QTest::newRow("style light") << QByteArray("style") << 0 << true;
+    QTest::newRow("style 2") << QByteArray("style") << 2 << false;
+    QTest::newRow("style -1") << QByteArray("style") << -1 << false;
+    QTest::newRow("component type combo") << QByteArray("componentType") << 4 << true;
+    QTest::newRow("component type 100000") << QByteArray("componentType") << 100000 << false;
+    QTest::newRow("security type disable") << QByteArray("securityType") << 2 << true;
+    QTest::newRow("security type 3") << QByteArray("securityType") << 3 << false;
+    QTest::newRow("security type INT_MIN")
+        << QByteArray("securityType") << std::numeric_limits<int>::min() << false;
+    QTest::newRow("name size large") << QByteArray("nameSize") << 3 << true;
+    QTest::newRow("name size 5") << QByteArray("nameSize") << 5 << false;
+    QTest::newRow("name size INT_MAX")
+        << QByteArray("nameSize") << std::numeric_limits<int>::max() << false;
+}
+
+void tst_Components::enumPropertiesTakeOnlyEnumerators()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(int, value);
+    QFETCH(bool, accepted);
+
+    VynUIComponent c;
+    const int before = c.property(property.constData()).toInt();
+    QVERIFY(before != value);
+    Recorder recorder(&c);
+    QSignalSpy logged(QLogger::QLoggerManager::getInstance(),
+                      &QLogger::QLoggerManager::messageLogged);
+    QVERIFY(c.setProperty(property.constData(), value));
+    QCOMPARE(c.property(property.constData()).toInt(), accepted ? value : before);
+    QCOMPARE(recorder.take().isEmpty(), !accepted);
+    QCOMPARE(logged.size(), accepted ? 0 : 1);
 }
 
 void tst_Components::confirmation_data()
@@ -521,6 +569,76 @@ void tst_Components::setDescription()
         "VynUISliderComponent\\(\\s*0x[0-9a-f]+\\)VynUISlideFieldComponent\\(\\s*0x[0-9a-f]+\\) "
         "\\}$");
     QVERIFY2(format.match(text).hasMatch(), qPrintable(text));
+}
+
+void tst_Components::setSurvivesDeletionFromPathSignal_data()
+{
+    // Components a, b and c are filed under Amp[1]/Gain, then moved to Amp[4]/Gain by
+    // updatePath(); on the paramPathChanged() of `trigger` a slot deletes `doomed` (a
+    // component, or "set"). `moved` lists the components filed under the new path after.
+    QTest::addColumn<QString>("trigger");
+    QTest::addColumn<QString>("doomed");
+    QTest::addColumn<QString>("moved");
+
+    QTest::newRow("nothing deleted") << "a"
+                                     << ""
+                                     << "abc";
+    QTest::newRow("b deletes itself") << "b"
+                                      << "b"
+                                      << "ac";
+    QTest::newRow("a deletes c, still to move") << "a"
+                                                << "c"
+                                                << "ab";
+    QTest::newRow("c deletes a, moved already") << "c"
+                                                << "a"
+                                                << "bc";
+    QTest::newRow("a deletes the set") << "a"
+                                       << "set"
+                                       << "";
+}
+
+void tst_Components::setSurvivesDeletionFromPathSignal()
+{
+    QFETCH(QString, trigger);
+    QFETCH(QString, doomed);
+    QFETCH(QString, moved);
+
+    QPointer<VynUIComponentSet> set(new VynUIComponentSet);
+    QMap<QString, QPointer<VynUIComponent>> components;
+    for (const char* name : {"a", "b", "c"}) {
+        auto* c = new VynUISliderComponent;
+        c->setParamPath(path("Amp[1]/Gain"));
+        set->insert(c);
+        components.insert(QString::fromLatin1(name), c);
+    }
+    if (!doomed.isEmpty()) {
+        QObject* victim = doomed == "set" ? static_cast<QObject*>(set.data())
+                                          : static_cast<QObject*>(components[doomed].data());
+        connect(
+            components[trigger], &VynUIComponent::paramPathChanged, this,
+            [victim] { delete victim; }, Qt::SingleShotConnection);
+    }
+
+    set->updatePath(path("Amp[1]/Gain"), path("Amp[4]/Gain"));
+
+    if (doomed == "set") {
+        QVERIFY(set.isNull());
+        // Only the component whose signal deleted the set took its new path.
+        QCOMPARE(components["a"]->paramPath(), path("Amp[4]/Gain"));
+        QCOMPARE(components["b"]->paramPath(), path("Amp[1]/Gain"));
+    } else {
+        QList<VynUIComponent*> expected;
+        for (QChar name : moved)
+            expected.append(components[QString(name)]);
+        QCOMPARE(set->getComponents(path("Amp[4]/Gain")), expected);
+        QCOMPARE(set->components(), expected);
+        QVERIFY(set->paths() == QList<VynProxyParamPath>{path("Amp[4]/Gain")});
+        for (VynUIComponent* c : std::as_const(expected))
+            QCOMPARE(c->paramPath(), path("Amp[4]/Gain"));
+        QVERIFY(doomed.isEmpty() || components[doomed].isNull());
+    }
+    delete set.data();
+    qDeleteAll(components);
 }
 
 void tst_Components::sliderFirstValueFormats()
@@ -874,6 +992,101 @@ void tst_Components::slideFieldWithoutTransformer()
                       &QLogger::QLoggerManager::messageLogged);
     f.setUnit(0, true);
     QCOMPARE(logged.size(), 1);
+}
+
+void tst_Components::sliderSurvivesDeletionFromHost_data()
+{
+    // The host deletes the component synchronously, from a validator or from the signal
+    // `deleteOn`, inside `call`. `emitted` is what the component emitted up to then.
+    QTest::addColumn<bool>("slideField");
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<QString>("deleteOn");
+    QTest::addColumn<QStringList>("emitted");
+
+    QTest::newRow("setValue, on valuesChanged") << false << "setValue"
+                                                << "values" << QStringList{"values"};
+    QTest::newRow("setValue, on mixedChanged") << false << "setValue"
+                                               << "mixed" << QStringList{"values", "mixed"};
+    QTest::newRow("slide field setValue, on valuesChanged") << true << "setValue"
+                                                            << "values" << QStringList{"values"};
+    QTest::newRow("expectsValue, in the value validator") << false << "expectsValue"
+                                                          << "validator" << QStringList{};
+    QTest::newRow("expectsValue, on valueChanged") << false << "expectsValue"
+                                                   << "value" << QStringList{"value"};
+    QTest::newRow("slide field expectsValue, in the value validator")
+        << true << "expectsValue"
+        << "validator" << QStringList{};
+    QTest::newRow("slide field expectsValue, on valueChanged")
+        << true << "expectsValue"
+        << "value" << QStringList{"displayedValue", "value"};
+    QTest::newRow("slide field shouldBeginSliding, in the sliding validator")
+        << true << "shouldBeginSliding"
+        << "validator" << QStringList{};
+    QTest::newRow("setSecurityType, on securityTypeChanged")
+        << false << "setSecurityType"
+        << "securityType" << QStringList{"securityType"};
+    QTest::newRow("slide field setTransformer, on transformerChanged")
+        << true << "setTransformer"
+        << "transformer" << QStringList{"transformer"};
+}
+
+void tst_Components::sliderSurvivesDeletionFromHost()
+{
+    QFETCH(bool, slideField);
+    QFETCH(QString, call);
+    QFETCH(QString, deleteOn);
+    QFETCH(QStringList, emitted);
+
+    VynUISliderComponent* c = slideField ? new VynUISlideFieldComponent : new VynUISliderComponent;
+    c->setValueQml(0.25);
+    const QPointer<VynUISliderComponent> guard(c);
+    int hints = 0;
+    if (auto* field = qobject_cast<VynUISlideFieldComponent*>(c)) {
+        connect(field, &VynUISlideFieldComponent::scheduleSlideFieldTextHint,
+                [&hints] { ++hints; });
+        connect(field, &VynUISlideFieldComponent::scheduleSlideFieldPanHint, [&hints] { ++hints; });
+    }
+    Recorder recorder(c);
+    const auto destroy = [c] { delete c; };
+    if (deleteOn == "values")
+        connect(c, &VynUISliderComponent::valuesChanged, destroy);
+    else if (deleteOn == "mixed")
+        connect(c, &VynUISliderComponent::mixedChanged, destroy);
+    else if (deleteOn == "value")
+        connect(c, &VynUISliderComponent::valueChanged, destroy);
+    else if (deleteOn == "securityType")
+        connect(c, &VynUIComponent::securityTypeChanged, destroy);
+    else if (deleteOn == "transformer")
+        connect(c, &VynUISliderComponent::transformerChanged, destroy);
+    const bool inValidator = deleteOn == "validator";
+    c->setSlidingValidator([inValidator](VynUISliderComponent* self) {
+        if (inValidator)
+            delete self;
+        return true;
+    });
+    c->setValueValidator([inValidator](VynUISliderComponent* self, double&, bool, double, bool) {
+        if (inValidator)
+            delete self;
+        return true;
+    });
+
+    bool answer = true;
+    VynDecibelTransformer decibels;
+    if (call == "setValue")
+        c->setValue(0.5, true, {0.25, 0.75});
+    else if (call == "expectsValue")
+        answer = c->expectsValue(0.75, false, 0.25, true);
+    else if (call == "shouldBeginSliding")
+        answer = c->shouldBeginSliding();
+    else if (call == "setSecurityType")
+        c->setSecurityType(Security::VynSecurityTypeDisable);
+    else if (call == "setTransformer")
+        c->setTransformer(&decibels);
+
+    QVERIFY(guard.isNull());
+    QCOMPARE(recorder.take(), emitted);
+    QVERIFY(answer); // the validator's answer comes back even though the component is gone
+    QCOMPARE(hints, 0);
 }
 
 QTEST_MAIN(tst_Components)

@@ -94,6 +94,7 @@ private slots:
     void transformerCloneKeepsKindAndUnit();
 
     void loggerWritesModuleFiles();
+    void loggerRotatesFullFiles_data();
     void loggerRotatesFullFiles();
 
     void messageResponses_data();
@@ -245,26 +246,45 @@ void tst_HostServices::loggerWritesModuleFiles()
     QVERIFY(!QLogger::QLoggerManager::instanceIsAlive());
 }
 
+void tst_HostServices::loggerRotatesFullFiles_data()
+{
+    QTest::addColumn<int>("display");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("rotatedPattern");
+    QTest::newRow("numbers") << int(QLogger::Number) << 25 << "^Rot\\.\\d+\\.log$";
+    // Many rotations fall within the same millisecond.
+    QTest::newRow("date and time, many rotations")
+        << int(QLogger::DateTime) << 3000 << "^Rot_\\d{8}-\\d{6}-\\d{3}(-\\d+)?\\.log$";
+}
+
 void tst_HostServices::loggerRotatesFullFiles()
 {
+    QFETCH(int, display);
+    QFETCH(int, count);
+    QFETCH(QString, rotatedPattern);
+
     QTemporaryDir folder;
     QLogger::QLoggerManager* logger = QLogger::QLoggerManager::getInstance();
     logger->setConsoleLevel(QLogger::Fatal + 1);
     logger->setMaximumFileSize(1); // raised to the 1 KiB minimum
     QCOMPARE(logger->maximumFileSize(), 1024);
     logger->addDestination(QString(), "Rot", QLogger::Debug, folder.path(), QLogger::OnlyFile,
-                           QLogger::Number, QLogger::ShowLevel);
+                           QLogger::LogFileDisplay(display), QLogger::ShowLevel);
     const QString text(100, QLatin1Char('x'));
-    for (int i = 0; i < 25; ++i)
-        logger->enqueueMessage("Rot", QLogger::Info, text);
+    for (int i = 0; i < count; ++i)
+        logger->enqueueMessage("Rot", QLogger::Info, text + QString::number(i));
     const QStringList files = QDir(folder.path()).entryList(QDir::Files, QDir::Name);
-    QCOMPARE(files, QStringList({"Rot.1.log", "Rot.2.log", "Rot.log"}));
-    int lines = 0;
+    if (display == QLogger::Number)
+        QCOMPARE(files, QStringList({"Rot.1.log", "Rot.2.log", "Rot.log"}));
+    const QRegularExpression rotated(rotatedPattern);
+    QSet<QString> seen;
     for (const QString& file : files) {
+        QVERIFY2(file == "Rot.log" || rotated.match(file).hasMatch(), qPrintable(file));
         QVERIFY(QFileInfo(folder.filePath(file)).size() <= 1024 + 110);
-        lines += static_cast<int>(linesOf(folder.filePath(file)).size());
+        for (const QString& line : linesOf(folder.filePath(file)))
+            seen.insert(line);
     }
-    QCOMPARE(lines, 25); // nothing lost
+    QCOMPARE(seen.size(), count); // nothing lost
     QLogger::QLoggerManager::destroyInstance();
 }
 
@@ -417,6 +437,21 @@ void tst_HostServices::windowControllerLookups()
     QQuickWindow dialog;
     dialog.setTransientParent(&window);
     QCOMPARE(QCoreWindowController::controllerForWindow(&dialog), controller);
+
+    // A cycle of transient parents without a controller ends the walk.
+    QWindow first;
+    QWindow second;
+    QWindow third;
+    first.setTransientParent(&second);
+    second.setTransientParent(&third);
+    third.setTransientParent(&first);
+    QVERIFY(!QCoreWindowController::controllerForWindow(&first));
+    // ... and one with a controller finds it from anywhere in the cycle.
+    QCoreWindowController cycleController(&third);
+    QCOMPARE(QCoreWindowController::controllerForWindow(&first), &cycleController);
+    third.setTransientParent(nullptr);
+    second.setTransientParent(nullptr);
+    first.setTransientParent(nullptr);
 
     // A second controller takes the window over.
     QCoreWindowController other(&window);

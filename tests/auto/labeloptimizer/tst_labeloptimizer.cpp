@@ -1,6 +1,7 @@
 #include "vynlabeloptimizer.h"
 #include "vynoptimizedlabel.h"
 
+#include <QPointer>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
@@ -185,6 +186,8 @@ private slots:
     void addAndRemove();
     void destroyedLabelLeavesSilently();
     void placementRequestedDuringPlacement();
+    void deletionFromPlacementSignals_data();
+    void deletionFromPlacementSignals();
 };
 
 void TestLabelOptimizer::placement_data()
@@ -592,6 +595,81 @@ void TestLabelOptimizer::placementRequestedDuringPlacement()
     QCOMPARE(maxDepth, 1);
     QCOMPARE(labels.list[1]->position(), 43.0);
     QCOMPARE(labels.deltas(), (QList<double>{-8.5, 8.5}));
+}
+
+void TestLabelOptimizer::deletionFromPlacementSignals_data()
+{
+    // Labels a, b and c (indexes 0, 1, 2) at 10, 95 and 50, length 20, all hidden in the
+    // empty interval, are placed in [0, 100]: all three become visible (in sorted order a,
+    // c, b) and b moves left off the right end. On the first visibleChanged() of `trigger`
+    // a slot deletes `doomed`: a label, or the optimizer (3), synchronously.
+    QTest::addColumn<int>("trigger");
+    QTest::addColumn<int>("doomed");
+    QTest::addColumn<QStringList>("emitted");
+    QTest::addColumn<QList<bool>>("alive");
+
+    const QStringList all{"a.visible", "c.visible", "b.visible", "b.position"};
+    QTest::newRow("nothing deleted") << 0 << -1 << all << QList<bool>{true, true, true};
+    QTest::newRow("a deletes b, due later")
+        << 0 << 1 << QStringList{"a.visible", "c.visible"} << QList<bool>{true, false, true};
+    QTest::newRow("b deletes itself, its position signal still due")
+        << 1 << 1 << QStringList{"a.visible", "c.visible", "b.visible"}
+        << QList<bool>{true, false, true};
+    QTest::newRow("b deletes a, done already") << 1 << 0 << all << QList<bool>{false, true, true};
+    QTest::newRow("a deletes the optimizer") << 0 << 3 << all << QList<bool>{true, true, true};
+}
+
+void TestLabelOptimizer::deletionFromPlacementSignals()
+{
+    QFETCH(int, trigger);
+    QFETCH(int, doomed);
+    QFETCH(QStringList, emitted);
+    QFETCH(QList<bool>, alive);
+
+    QPointer<VynLabelOptimizer> optimizer(new VynLabelOptimizer);
+    const QStringList names{"a", "b", "c"};
+    QList<QPointer<VynOptimizedLabel>> labels;
+    for (double position : {10.0, 95.0, 50.0}) {
+        auto* label = new VynOptimizedLabel;
+        label->setPosition(position);
+        label->setLength(20);
+        optimizer->addOptimizedLabel(label);
+        labels.append(label);
+    }
+    QVERIFY(!labels[0]->isVisible());
+
+    QStringList recorded;
+    for (int i = 0; i < labels.size(); ++i) {
+        const QString name = names[i];
+        connect(labels[i], &VynOptimizedLabel::visibleChanged, labels[i],
+                [&recorded, name] { recorded << name + ".visible"; });
+        connect(labels[i], &VynOptimizedLabel::optimizedPositionChanged, labels[i],
+                [&recorded, name] { recorded << name + ".position"; });
+    }
+    if (doomed >= 0) {
+        QObject* victim = doomed == 3 ? static_cast<QObject*>(optimizer.data())
+                                      : static_cast<QObject*>(labels[doomed].data());
+        connect(
+            labels[trigger], &VynOptimizedLabel::visibleChanged, this, [victim] { delete victim; },
+            Qt::SingleShotConnection);
+    }
+
+    optimizer->setPositionMax(100);
+
+    QCOMPARE(recorded, emitted);
+    for (int i = 0; i < labels.size(); ++i)
+        QCOMPARE(!labels[i].isNull(), alive[i]);
+    QCOMPARE(optimizer.isNull(), doomed == 3);
+    if (optimizer) {
+        // The deleted label left the optimizer, which still places the others.
+        QCOMPARE(optimizer->optimizedLabels().size(), alive.count(true));
+        const int survivor = labels[0] ? 0 : 2;
+        labels[survivor]->setPosition(2);
+        QCOMPARE(labels[survivor]->delta(), 8.0);
+    }
+    for (const auto& label : std::as_const(labels))
+        delete label.data();
+    delete optimizer.data();
 }
 
 QTEST_GUILESS_MAIN(TestLabelOptimizer)

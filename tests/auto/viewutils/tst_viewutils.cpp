@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <cfloat>
+#include <limits>
 
 using namespace VynViewUtils;
 
@@ -449,6 +450,21 @@ void TestViewUtils::alignedOnGrid_data()
     QTest::newRow("huge quotient used as it is")
         << QRectF(1e10 + 0.5, 0, 1, 1) << 1.0 << false << false
         << QRectF(double(float(1e10 + 0.5)), 0, 1, 1);
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double inf = std::numeric_limits<double>::infinity();
+    const QRectF odd(13, 27, 25, 18);
+    QTest::newRow("step 0: unchanged") << odd << 0.0 << true << true << odd;
+    QTest::newRow("negative step: unchanged") << odd << -10.0 << true << true << odd;
+    QTest::newRow("NaN step: unchanged") << odd << nan << true << true << odd;
+    QTest::newRow("infinite step: unchanged") << odd << inf << true << true << odd;
+    QTest::newRow("value beyond single precision: unchanged")
+        << QRectF(1e300, -1e300, 1, 1) << 1.0 << false << false << QRectF(1e300, -1e300, 1, 1);
+    QTest::newRow("tiny step: unchanged")
+        << QRectF(13, 27, 25, 18) << 1e-320 << false << false << QRectF(13, 27, 25, 18);
+    QTest::newRow("NaN origin stays, the other one snaps")
+        << QRectF(nan, 27, 25, 18) << 10.0 << false << true << QRectF(nan, 20, 25, 10);
+    QTest::newRow("infinite size stays")
+        << QRectF(13, 27, inf, 18) << 10.0 << true << false << QRectF(10, 20, inf, 18);
 }
 
 void TestViewUtils::alignedOnGrid()
