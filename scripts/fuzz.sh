@@ -9,8 +9,8 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bash scripts/install-deps.sh
-bash scripts/install-fuzz-deps.sh
+# clang-14 builds the fuzzers; libclang-rt-14-dev holds libFuzzer and the sanitizers.
+bash scripts/install-deps.sh clang-14 libclang-rt-14-dev
 
 jobs=$(nproc 2>/dev/null || echo 2)
 seconds=${VYNUI_FUZZ_SECONDS:-25}

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what building, testing and running VynUI needs on Debian bookworm, and nothing
-# that is already there. Needs root (or sudo).
+# that is already there. Packages named as arguments are installed too (scripts/fuzz.sh
+# adds clang and its runtime libraries this way). Needs root (or sudo).
 set -euo pipefail
 
 packages=(
@@ -13,6 +14,7 @@ packages=(
     # Qt's SVG image-format plugin: the module's icons are SVG files drawn by Qt Quick.
     libqt6svg6
     libgl-dev fonts-dejavu-core
+    "$@"
 )
 # The module's own fonts (Inter) are committed under src/qml/Font: no font package is needed
 # to build or run it.
