@@ -1,3 +1,4 @@
+#include "benchtiming.h"
 #include "vynlabeloptimizer.h"
 #include "vynoptimizedlabel.h"
 
@@ -92,6 +93,7 @@ private slots:
     void optimizer_data() { optimize_data(); }
     void optimizer();
     void cpuTime();
+    void addScaling();
 };
 
 void BenchLabelOptimizer::optimize_data()
@@ -150,6 +152,36 @@ void BenchLabelOptimizer::cpuTime()
               "1000 labels %.4f ms (%d shown), ratio 1000/200 %.2f",
               name, ms[0], visible[0], ms[1], visible[1], ms[2], visible[2], ms[2] / ms[1]);
     }
+}
+
+// A graph that puts n labels on its axis at once: registered in one batch
+// (addOptimizedLabels(), one placement), at 1000 and 10000 labels, and the ratio. For
+// comparison, the same labels added one by one (a placement per add) at 1000.
+void BenchLabelOptimizer::addScaling()
+{
+    const auto batch = [](int count) {
+        return benchBestOf(3, [count](auto measure) {
+            LabelSet set(count, kMixedSpacing);
+            VynLabelOptimizer optimizer;
+            optimizer.setPositionMax(set.axis);
+            measure([&] { optimizer.addOptimizedLabels(set.list); });
+            QVERIFY(set.visibleCount() > 0);
+        });
+    };
+    const double small = batch(1000);
+    const double large = batch(10000);
+    const double oneByOne = benchBestOf(1, [](auto measure) {
+        LabelSet set(1000, kMixedSpacing);
+        VynLabelOptimizer optimizer;
+        optimizer.setPositionMax(set.axis);
+        measure([&] {
+            for (auto* label : set.list)
+                optimizer.addOptimizedLabel(label);
+        });
+    });
+    qInfo("batch add: 1000 labels %.2f ms, 10000 labels %.2f ms, ratio 10000/1000 %.2f; "
+          "one by one: 1000 labels %.1f ms",
+          small, large, large / small, oneByOne);
 }
 
 QTEST_GUILESS_MAIN(BenchLabelOptimizer)

@@ -19,24 +19,23 @@ VynUIComponentSet::VynUIComponentSet(QObject* parent) : QObject(parent) {}
 VynUIComponentSet::~VynUIComponentSet()
 {
     // The components outlive the set: stop listening to them.
-    for (const auto& entry : m_order)
-        disconnectComponent(entry.second);
+    for (const Filing& filing : std::as_const(m_filings))
+        disconnectComponent(filing);
 }
 
-void VynUIComponentSet::connectComponent(VynUIComponent* c)
+void VynUIComponentSet::connectComponent(VynUIComponent* c, Filing& filing)
 {
-    connect(c, &VynUIComponent::paramPathChanged, this,
-            &VynUIComponentSet::onComponentParamPathChanged, Qt::UniqueConnection);
-    connect(c, &QObject::destroyed, this,
-            qOverload<QObject*>(&VynUIComponentSet::onComponentDestroyed), Qt::UniqueConnection);
+    filing.pathConnection =
+        connect(c, &VynUIComponent::paramPathChanged, this, [this, c] { refile(c); });
+    filing.destroyedConnection =
+        connect(c, &QObject::destroyed, this,
+                qOverload<QObject*>(&VynUIComponentSet::onComponentDestroyed));
 }
 
-void VynUIComponentSet::disconnectComponent(VynUIComponent* c)
+void VynUIComponentSet::disconnectComponent(const Filing& filing)
 {
-    disconnect(c, &VynUIComponent::paramPathChanged, this,
-               &VynUIComponentSet::onComponentParamPathChanged);
-    disconnect(c, &QObject::destroyed, this,
-               qOverload<QObject*>(&VynUIComponentSet::onComponentDestroyed));
+    disconnect(filing.pathConnection);
+    disconnect(filing.destroyedConnection);
 }
 
 const QList<VynUIComponent*>& VynUIComponentSet::components() const
@@ -55,9 +54,10 @@ VynUIComponentSet::Filing& VynUIComponentSet::enter(VynUIComponent* c)
 {
     auto it = m_filings.find(c);
     if (it == m_filings.end()) {
-        it = m_filings.insert(c, Filing{++m_sequence, {}});
+        it = m_filings.insert(c, Filing{++m_sequence, {}, {}, {}});
         m_order.emplace(it->order, c);
         m_componentsStale = true;
+        connectComponent(c, *it);
     }
     return *it;
 }
@@ -91,6 +91,7 @@ bool VynUIComponentSet::drop(const QObject* key, QList<VynProxyParamPath>* paths
         return false;
     const Filing filing = *it;
     m_filings.erase(it);
+    disconnectComponent(filing);
     m_order.erase(filing.order);
     m_componentsStale = true;
     for (const auto& filed : filing.paths) {
@@ -106,7 +107,6 @@ void VynUIComponentSet::insert(VynUIComponent* c)
     if (!c || m_filings.contains(c))
         return;
     fileUnder(c->paramPath(), c);
-    connectComponent(c);
 }
 
 void VynUIComponentSet::insert(const VynProxyParamPath& path, VynUIComponent* c)
@@ -123,7 +123,6 @@ void VynUIComponentSet::insert(const VynProxyParamPath& path, VynUIComponent* c)
             return;
     }
     fileUnder(path, c);
-    connectComponent(c);
 }
 
 void VynUIComponentSet::insert(const QList<VynUIComponent*>& components)
@@ -134,9 +133,8 @@ void VynUIComponentSet::insert(const QList<VynUIComponent*>& components)
 
 void VynUIComponentSet::remove(VynUIComponent* c)
 {
-    if (!c || !drop(c))
-        return;
-    disconnectComponent(c);
+    if (c)
+        drop(c);
 }
 
 void VynUIComponentSet::remove(const QList<VynUIComponent*>& components)
@@ -155,10 +153,10 @@ QList<VynUIComponent*> VynUIComponentSet::remove(const VynProxyParamPath& path)
             continue;
         it->paths.removeIf([&path](const auto& filed) { return filed.first == path; });
         if (it->paths.isEmpty()) {
+            disconnectComponent(*it);
             m_order.erase(it->order);
             m_filings.erase(it);
             m_componentsStale = true;
-            disconnectComponent(c);
         }
     }
     return removed;
@@ -241,7 +239,11 @@ QString VynUIComponentSet::getDescription() const
 
 void VynUIComponentSet::onComponentParamPathChanged()
 {
-    auto* c = qobject_cast<VynUIComponent*>(sender());
+    refile(qobject_cast<VynUIComponent*>(sender()));
+}
+
+void VynUIComponentSet::refile(VynUIComponent* c)
+{
     if (!c)
         return;
     remove(c);

@@ -92,10 +92,15 @@ private:
     {
         quint64 order = 0;
         QList<QPair<VynProxyParamPath, quint64>> paths;
+        // The re-filing connection names its component: QObject::sender() costs time in
+        // the number of objects connected to the set.
+        QMetaObject::Connection pathConnection;
+        QMetaObject::Connection destroyedConnection;
     };
 
-    void connectComponent(VynUIComponent* c);
-    void disconnectComponent(VynUIComponent* c);
+    void connectComponent(VynUIComponent* c, Filing& filing);
+    static void disconnectComponent(const Filing& filing);
+    void refile(VynUIComponent* c);
     //! Adds \a c to components() when absent; returns its filing.
     Filing& enter(VynUIComponent* c);
     void fileUnder(const VynProxyParamPath& path, VynUIComponent* c);

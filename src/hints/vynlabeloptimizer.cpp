@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -64,10 +65,33 @@ void VynLabelOptimizer::setPositionMax(double positionMax)
     emit positionMaxChanged();
 }
 
+QList<VynOptimizedLabel*> VynLabelOptimizer::optimizedLabels() const
+{
+    if (m_destroyedPending == 0)
+        return m_labels;
+    QList<VynOptimizedLabel*> labels = m_labels;
+    labels.removeIf([this](VynOptimizedLabel* label) { return !m_members.contains(label); });
+    return labels;
+}
+
+void VynLabelOptimizer::compact()
+{
+    if (m_destroyedPending == 0)
+        return;
+    // The entries of destroyed labels are compared by address only, never dereferenced.
+    const auto gone = [this](VynOptimizedLabel* label) { return !m_members.contains(label); };
+    m_addedLabels.removeIf(gone);
+    m_labels.removeIf(gone);
+    m_destroyedPending = 0;
+}
+
 void VynLabelOptimizer::addOptimizedLabel(VynOptimizedLabel* p_optimizedLabel)
 {
-    if (!p_optimizedLabel || m_addedLabels.contains(p_optimizedLabel))
+    if (!p_optimizedLabel || m_members.contains(p_optimizedLabel))
         return;
+    // Before the new label joins: its address may be that of a label destroyed meanwhile.
+    compact();
+    m_members.insert(p_optimizedLabel);
     m_addedLabels.append(p_optimizedLabel);
     m_labels.append(p_optimizedLabel);
     connect(p_optimizedLabel, &VynOptimizedLabel::positionChanged, this,
@@ -81,7 +105,7 @@ void VynLabelOptimizer::addOptimizedLabel(VynOptimizedLabel* p_optimizedLabel)
 
 void VynLabelOptimizer::removeOptimizedLabel(VynOptimizedLabel* p_optimizedLabel)
 {
-    if (!p_optimizedLabel || !m_addedLabels.contains(p_optimizedLabel))
+    if (!p_optimizedLabel || !m_members.contains(p_optimizedLabel))
         return;
     disconnect(p_optimizedLabel, &VynOptimizedLabel::positionChanged, this,
                &VynLabelOptimizer::optimizeIfNeeded);
@@ -89,13 +113,44 @@ void VynLabelOptimizer::removeOptimizedLabel(VynOptimizedLabel* p_optimizedLabel
                &VynLabelOptimizer::optimizeIfNeeded);
     disconnect(p_optimizedLabel, &QObject::destroyed, this,
                &VynLabelOptimizer::onOptimizedLabelDestroyed);
-    m_addedLabels.removeAll(p_optimizedLabel);
-    m_labels.removeAll(p_optimizedLabel);
+    m_members.remove(p_optimizedLabel);
+    ++m_destroyedPending;
+    compact();
     emit optimizedLabelsChanged();
+}
+
+void VynLabelOptimizer::addOptimizedLabels(const QList<VynOptimizedLabel*>& p_labels)
+{
+    // Slots on optimizedLabelsChanged() may delete the optimizer.
+    const QPointer<VynLabelOptimizer> self(this);
+    beginUpdate();
+    for (VynOptimizedLabel* label : p_labels) {
+        addOptimizedLabel(label);
+        if (!self)
+            return;
+    }
+    endUpdate();
+}
+
+void VynLabelOptimizer::beginUpdate()
+{
+    ++m_updateDepth;
+}
+
+void VynLabelOptimizer::endUpdate()
+{
+    if (m_updateDepth == 0 || --m_updateDepth > 0)
+        return;
+    if (std::exchange(m_updateRequested, false))
+        optimizeIfNeeded();
 }
 
 void VynLabelOptimizer::optimizeIfNeeded()
 {
+    if (m_updateDepth > 0) {
+        m_updateRequested = true;
+        return;
+    }
     if (m_placing) {
         m_placementPending = true;
         return;
@@ -103,6 +158,7 @@ void VynLabelOptimizer::optimizeIfNeeded()
     m_placing = true;
     for (int run = 0; run < kMaxPlacementRuns; ++run) {
         m_placementPending = false;
+        compact();
         if (m_expectedLabelCount != -1 && m_expectedLabelCount != m_labels.size())
             break;
         // Sorted from the order of addition, so that labels at equal positions always
@@ -125,12 +181,9 @@ void VynLabelOptimizer::optimizeIfNeeded()
 
 void VynLabelOptimizer::onOptimizedLabelDestroyed(QObject* p_sender)
 {
-    // The label's own part is already destroyed: compare addresses only, never
-    // dereference or cast through the object (QObject is its only base, at offset 0).
-    const void* sender = p_sender;
-    const auto isSender = [sender](VynOptimizedLabel* label) {
-        return static_cast<const void*>(label) == sender;
-    };
-    m_addedLabels.removeIf(isSender);
-    m_labels.removeIf(isSender);
+    // The label's own part is already destroyed: it is looked up by address only, never
+    // dereferenced or cast through (QObject is its only base, at offset 0). Its entries in
+    // the lists go on their next use.
+    if (m_members.remove(static_cast<const void*>(p_sender)))
+        ++m_destroyedPending;
 }

@@ -94,6 +94,24 @@ TestCase {
         verify(!slider.enabled)
     }
 
+    // QML hands any integer to an enum property: only the type's enumerators are taken.
+    function test_enumPropertiesFromQml_data() {
+        return [
+            { tag: "style 2", property: "style", value: 2 },
+            { tag: "style -1", property: "style", value: -1 },
+            { tag: "security type 7", property: "securityType", value: 7 },
+            { tag: "name size 1e6", property: "nameSize", value: 1000000 },
+            { tag: "component type -2147483648", property: "componentType", value: -2147483648 }
+        ]
+    }
+
+    function test_enumPropertiesFromQml(data) {
+        const slider = createTemporaryObject(sliderComponent, testCase)
+        const before = slider[data.property]
+        slider[data.property] = data.value
+        compare(slider[data.property], before)
+    }
+
     function test_valueFromQml() {
         const slider = createTemporaryObject(sliderComponent, testCase)
         valueSpy.target = slider

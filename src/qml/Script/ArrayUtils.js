@@ -159,23 +159,45 @@ function shiftSelect(p_index, p_selectedIndexes, p_pivotIndex, p_canSelectIndexB
     const low = Math.min(pivot, p_index)
     const high = Math.max(pivot, p_index)
 
+    // Near-linear in the size of the selection and of the range: the indexes to drop are
+    // counted first and taken out in one pass, and membership is looked up by index in
+    // plain arrays (the script engine's Map and Set search their keys one by one).
     const sorted = Array.prototype.slice.call(selected).sort(function (a, b) { return a - b })
     const runs = groupedConsecutiveIndexes(sorted)
+    const dropCounts = []
+    let dropped = 0
     for (let r = 0; r < runs.length; ++r) {
         const run = runs[r]
         if (run[run.length - 1] < low || run[0] > high)
             continue
         for (let k = 0; k < run.length; ++k) {
-            const position = selected.indexOf(run[k])
-            if (position >= 0)
-                selected.splice(position, 1)
+            dropCounts[run[k]] = (dropCounts[run[k]] || 0) + 1
+            ++dropped
             _report(p_updateSelectionBlock, run[k], false)
         }
     }
+    if (dropped > 0) {
+        // Each dropped index leaves as many of its first occurrences as it was dropped.
+        let kept = 0
+        for (let i = 0; i < selected.length; ++i) {
+            const index = selected[i]
+            const count = dropCounts[index]
+            if (count) {
+                dropCounts[index] = count - 1
+                continue
+            }
+            selected[kept++] = index
+        }
+        selected.splice(kept, selected.length - kept)
+    }
 
+    const present = []
+    for (let i = 0; i < selected.length; ++i)
+        present[selected[i]] = true
     for (let index = low; index <= high; ++index) {
-        if (selected.indexOf(index) < 0 && _canSelect(p_canSelectIndexBlock, index)) {
+        if (present[index] !== true && _canSelect(p_canSelectIndexBlock, index)) {
             selected.push(index)
+            present[index] = true
             _report(p_updateSelectionBlock, index, true)
         }
     }

@@ -188,6 +188,8 @@ private slots:
     void placementRequestedDuringPlacement();
     void deletionFromPlacementSignals_data();
     void deletionFromPlacementSignals();
+    void batchedChangesPlaceOnce_data();
+    void batchedChangesPlaceOnce();
 };
 
 void TestLabelOptimizer::placement_data()
@@ -670,6 +672,91 @@ void TestLabelOptimizer::deletionFromPlacementSignals()
     for (const auto& label : std::as_const(labels))
         delete label.data();
     delete optimizer.data();
+}
+
+void TestLabelOptimizer::batchedChangesPlaceOnce_data()
+{
+    // How 40 crowded labels (random positions, fixed seed) reach the optimizer.
+    QTest::addColumn<QString>("mode");
+    QTest::newRow("one by one") << "single";
+    QTest::newRow("bracketed adds") << "bracket";
+    QTest::newRow("nested brackets, moves inside") << "nested";
+    QTest::newRow("addOptimizedLabels") << "list";
+    QTest::newRow("unmatched endUpdate ignored") << "unmatched";
+}
+
+void TestLabelOptimizer::batchedChangesPlaceOnce()
+{
+    QFETCH(QString, mode);
+
+    std::mt19937 random(7);
+    QList<double> positions, lengths;
+    for (int i = 0; i < 40; ++i) {
+        positions.append(double(random() % 400));
+        lengths.append(10.0 + double(random() % 30));
+    }
+    // The result to match: every label added alone, each add placing all of them.
+    Labels expected(positions, lengths);
+    VynLabelOptimizer reference;
+    reference.setPositionMax(400);
+    for (auto* label : expected.list)
+        reference.addOptimizedLabel(label);
+    expected.list[3]->setPosition(positions[3] + 17);
+
+    Labels labels(positions, lengths);
+    VynLabelOptimizer optimizer;
+    optimizer.setPositionMax(400);
+    int placementSignals = 0;
+    for (auto* label : labels.list)
+        connect(label, &VynOptimizedLabel::optimizedPositionChanged, this,
+                [&placementSignals] { ++placementSignals; });
+    const auto heldBack = [&labels] {
+        for (auto* label : labels.list) {
+            if (label->delta() != 0.0 || !label->isVisible())
+                return false;
+        }
+        return true;
+    };
+
+    if (mode == "single") {
+        for (auto* label : labels.list)
+            optimizer.addOptimizedLabel(label);
+        labels.list[3]->setPosition(positions[3] + 17);
+    } else if (mode == "list") {
+        optimizer.addOptimizedLabels(labels.list);
+        labels.list[3]->setPosition(positions[3] + 17);
+    } else {
+        optimizer.beginUpdate();
+        if (mode == "nested")
+            optimizer.beginUpdate();
+        for (auto* label : labels.list)
+            optimizer.addOptimizedLabel(label);
+        if (mode == "nested") {
+            labels.list[3]->setPosition(positions[3] + 17);
+            optimizer.endUpdate();
+            QVERIFY(optimizer.isUpdating());
+        }
+        QVERIFY(heldBack());
+        // Nothing placed yet: the only signal is the nested move's own.
+        QCOMPARE(placementSignals, mode == "nested" ? 1 : 0);
+        optimizer.endUpdate();
+        QVERIFY(!optimizer.isUpdating());
+        if (mode != "nested")
+            labels.list[3]->setPosition(positions[3] + 17);
+        if (mode == "unmatched") {
+            optimizer.endUpdate();
+            QVERIFY(!optimizer.isUpdating());
+            labels.list[5]->setPosition(positions[5] + 1);
+            labels.list[5]->setPosition(positions[5]);
+            QVERIFY(!heldBack()); // placements still run at once
+        }
+    }
+
+    QCOMPARE(labels.deltas(), expected.deltas());
+    QCOMPARE(labels.visibility(), expected.visibility());
+    QCOMPARE(optimizer.optimizedLabels().size(), labels.list.size());
+    if (mode == "list")
+        QVERIFY(placementSignals <= 2 * labels.list.size() + 1); // two placements, one move
 }
 
 QTEST_GUILESS_MAIN(TestLabelOptimizer)
