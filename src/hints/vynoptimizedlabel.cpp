@@ -288,7 +288,10 @@ void VynOptimizedLabel::optimize(const QList<VynOptimizedLabel*>& labels, double
         QList<VynOptimizedLabel*> working;
         working.reserve(labels.size());
         for (VynOptimizedLabel* label : labels) {
-            const bool placeable = label->m_length > 0.0;
+            // A position or length that is not a finite number (a device that has not
+            // answered yet) cannot be placed: the label is hidden and pushes nobody.
+            const bool placeable = label->m_length > 0.0 && std::isfinite(label->m_length) &&
+                                   std::isfinite(label->m_position);
             VynOptimizedLabelAccess::setState(label, 0.0, placeable);
             if (placeable)
                 working.append(label);

@@ -22,8 +22,9 @@
     usable alone on any list of labels:
 
     - optimize(): the whole placement. Every label starts from delta 0 and
-      visible; labels whose length is not greater than 0 (or NaN) are hidden
-      and take no part (give a label the length -1 to hide it on purpose). The
+      visible; labels whose length is not greater than 0, or whose position or
+      length is not a finite number, are hidden and take no part (give a label
+      the length -1 to hide it on purpose). The
       others are relaxed (minimizeEnery), hidden where they still overflow or
       collide (hideOverlapping), then relaxed and hidden once more from zero
       deltas, with the labels hidden by the first pass no longer acting as

@@ -1,8 +1,11 @@
 // Values that are not numbers, handed in by a host whose device has not answered yet (NaN) or
 // that reports an overflow (infinity). One table per family of setters: a NaN is refused (old
 // state kept, no signal at all, exactly one log line); an infinity becomes the end of the range
-// where a range exists, and is refused where none does.
+// where a range exists, and is refused where none does; a value label that cannot be placed
+// is hidden.
 
+#include "vynlabeloptimizer.h"
+#include "vynoptimizedlabel.h"
 #include "vynuislidefieldcomponent.h"
 #include "vynuislidercomponent.h"
 
@@ -144,6 +147,8 @@ private slots:
     void componentSetters();
     void componentValidators_data();
     void componentValidators();
+    void labels_data();
+    void labels();
 };
 
 void tst_HostileValues::componentSetters_data()
@@ -254,6 +259,52 @@ void tst_HostileValues::componentValidators()
         QCOMPARE(emitted.fired(), QStringList());
         QCOMPARE(warnings.count(), 1);
     }
+}
+
+void tst_HostileValues::labels_data()
+{
+    QTest::addColumn<double>("position");
+    QTest::addColumn<double>("length");
+
+    QTest::newRow("position NaN") << kNaN << 20.0;
+    QTest::newRow("position +inf") << kInf << 20.0;
+    QTest::newRow("position -inf") << -kInf << 20.0;
+    QTest::newRow("length NaN") << 50.0 << kNaN;
+    QTest::newRow("length +inf") << 50.0 << kInf;
+}
+
+// A label that cannot be placed is hidden and leaves its neighbours where they would be
+// without it.
+void tst_HostileValues::labels()
+{
+    QFETCH(double, position);
+    QFETCH(double, length);
+
+    VynLabelOptimizer optimizer;
+    optimizer.setPositionMin(0.0);
+    optimizer.setPositionMax(100.0);
+    VynOptimizedLabel left, right, hostile;
+    left.setPosition(40.0);
+    left.setLength(20.0);
+    right.setPosition(60.0);
+    right.setLength(20.0);
+    optimizer.addOptimizedLabel(&left);
+    optimizer.addOptimizedLabel(&right);
+    const double leftAlone = left.optimizedPosition();
+    const double rightAlone = right.optimizedPosition();
+
+    hostile.setPosition(50.0);
+    hostile.setLength(20.0);
+    optimizer.addOptimizedLabel(&hostile);
+    QVERIFY(hostile.isVisible());
+    hostile.setPosition(position);
+    hostile.setLength(length);
+
+    QVERIFY(!hostile.isVisible());
+    QCOMPARE(left.optimizedPosition(), leftAlone);
+    QCOMPARE(right.optimizedPosition(), rightAlone);
+    QVERIFY(left.isVisible() && right.isVisible());
+    QVERIFY(std::isfinite(left.optimizedPosition()) && std::isfinite(right.optimizedPosition()));
 }
 
 QTEST_GUILESS_MAIN(tst_HostileValues)
