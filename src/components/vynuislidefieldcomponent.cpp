@@ -111,7 +111,14 @@ void VynUISlideFieldComponent::onTransformerUnitChanged()
     if (self)
         emit unitIndexChanged();
     if (self)
-        emit displayedValueChanged();
+        emitDisplayedValues();
+}
+
+void VynUISlideFieldComponent::emitDisplayedValues()
+{
+    // Each slot may delete the component: the next signal is emitted only if it survived.
+    const QPointer<VynUISlideFieldComponent> self(this);
+    emit displayedValueChanged();
     if (self)
         emit minValueChanged();
     if (self)
@@ -129,11 +136,7 @@ void VynUISlideFieldComponent::setTransformer(VynTransformer* transformer)
     if (unitIndex() != indexBefore)
         emit unitIndexChanged();
     if (self)
-        emit displayedValueChanged();
-    if (self)
-        emit minValueChanged();
-    if (self)
-        emit maxValueChanged();
+        emitDisplayedValues();
 }
 
 void VynUISlideFieldComponent::setUnit(int p_index, bool p_force)

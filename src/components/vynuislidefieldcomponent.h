@@ -102,6 +102,8 @@ signals:
     void scheduleSlideFieldPanHint();
 
 private:
+    //! displayedValueChanged(), minValueChanged(), maxValueChanged(), in this order.
+    void emitDisplayedValues();
     void watchTransformer();
     void onTransformerUnitChanged();
     void setAllowsUnitChoosingFrom(bool before);
