@@ -150,7 +150,8 @@ void refOptimize(std::vector<RefLabel>& all, double min, double max)
     RefList working;
     for (auto& l : all) {
         l.delta = 0.0;
-        l.visible = min < max && l.length > 0.0;
+        l.visible =
+            min < max && l.length > 0.0 && std::isfinite(l.length) && std::isfinite(l.position);
         if (l.visible)
             working.push_back(&l);
     }
