@@ -6,9 +6,11 @@
 #include <qloggermanager.h>
 
 #include <QMetaEnum>
+#include <QPointer>
 #include <QQuickWindow>
 
 #include <cmath>
+#include <functional>
 
 VynUIComponent::VynUIComponent(QObject* parent, bool p_enableLogs) : QObject(parent)
 {
@@ -208,18 +210,32 @@ void VynUIComponent::restoreFromUIComponent(VynUIComponent* p_other)
 {
     if (!p_other || p_other == this)
         return;
-    setComponentType(p_other->componentType());
-    setParamPath(p_other->paramPath());
-    setSecurityKey(p_other->securityKey());
-    setSecurityType(p_other->securityType());
-    setSecurityAlertTitleAndMessage(p_other->securityAlertTitle(), p_other->securityAlertMessage());
-    setTooltipText(p_other->tooltipText());
-    setEnabled(p_other->storedEnabled());
-    setPreviewMode(p_other->previewMode());
-    setWindowController(p_other->windowController());
-    setWantsName(p_other->wantsName());
-    setNameSize(p_other->nameSize());
-    setName(p_other->name());
+    // Slots on the change signals may delete either component: the copy stops as soon as
+    // one of them is gone.
+    const QPointer<VynUIComponent> self(this);
+    const QPointer<VynUIComponent> other(p_other);
+    const std::function<void()> steps[] = {
+        [&] { setComponentType(other->componentType()); },
+        [&] { setParamPath(other->paramPath()); },
+        [&] { setSecurityKey(other->securityKey()); },
+        [&] { setSecurityType(other->securityType()); },
+        [&] {
+            setSecurityAlertTitleAndMessage(other->securityAlertTitle(),
+                                            other->securityAlertMessage());
+        },
+        [&] { setTooltipText(other->tooltipText()); },
+        [&] { setEnabled(other->storedEnabled()); },
+        [&] { setPreviewMode(other->previewMode()); },
+        [&] { setWindowController(other->windowController()); },
+        [&] { setWantsName(other->wantsName()); },
+        [&] { setNameSize(other->nameSize()); },
+        [&] { setName(other->name()); },
+    };
+    for (const auto& step : steps) {
+        if (!self || !other)
+            return;
+        step();
+    }
 }
 
 QString VynUIComponent::toStringValue()

@@ -319,6 +319,24 @@ void tst_Components::restoreCopiesInOrder()
     copy.setEnabled(false);
     copy.restoreFromUIComponent(&disabledBySecurity);
     QVERIFY(copy.storedEnabled());
+
+    // A slot may delete either component in the middle of the copy: the copy stops there.
+    for (bool deleteTarget : {true, false}) {
+        auto* from = new VynUIComponent;
+        from->setParamPath(path("Amp[1]/Gain"));
+        from->setName("Gain");
+        auto* to = new VynUIComponent;
+        QPointer<VynUIComponent> watched = deleteTarget ? to : from;
+        QObject::connect(to, &VynUIComponent::paramPathChanged, [&] { delete watched.data(); });
+        to->restoreFromUIComponent(from);
+        QVERIFY(!watched);
+        if (deleteTarget) {
+            delete from;
+        } else {
+            QCOMPARE(to->name(), QString()); // nothing after the deletion was copied
+            delete to;
+        }
+    }
 }
 
 void tst_Components::enumPropertiesTakeOnlyEnumerators_data()
