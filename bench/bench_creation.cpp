@@ -62,8 +62,9 @@ const Pair kPairs[] = {
     {"VynLabel / Label", "VynLabel { text: \"Channel 1\" }", "Label { text: \"Channel 1\" }"},
     {"VynLabelWithToolTip / Label+ToolTip", "VynLabelWithToolTip { text: \"Channel 1\" }",
      "Label { text: \"Channel 1\"; ToolTip.text: \"Channel 1\" }"},
-    {"VynColorIcon / Image", "VynColorIcon { width: 16; height: 16 }",
-     "Image { width: 16; height: 16 }"},
+    {"VynColorIcon / Image (SVG)", "VynColorIcon { width: 16; height: 16; color: \"#d04040\" }",
+     "Image { width: 16; height: 16; sourceSize: Qt.size(16, 16);"
+     " source: VynImages.url(\"lock\", 0) }"},
 };
 
 double median(std::vector<double> values)
