@@ -29,12 +29,9 @@ bool isControl(const QQuickItem* item)
     if (item->inherits("QQuickControl") || item->inherits("QQuickText") ||
         item->inherits("QQuickTextInput"))
         return true;
-    // QML types of the module: VynSlider12_QMLTYPE_3 and the like.
-    for (const QMetaObject* meta = item->metaObject(); meta; meta = meta->superClass()) {
-        if (qstrncmp(meta->className(), "Vyn", 3) == 0)
-            return true;
-    }
-    return false;
+    // QML types of the module (VynSlider12_QMLTYPE_3 and the like); a gallery type built on
+    // one of them (LabelledBar on VynItem) is a composition and is looked into.
+    return qstrncmp(item->metaObject()->className(), "Vyn", 3) == 0;
 }
 
 bool isShown(const QQuickItem* item)

@@ -249,12 +249,13 @@ VynItem {
         }
     }
 
-    // What the optimizer did to each label.
-    Row {
+    // What the optimizer did to each label; wraps onto more lines on a narrow bar.
+    Flow {
         id: legend
 
         x: trackItem.x
         y: trackRow.y + trackRow.height + bar.__labelGap * 2
+        width: Math.max(0, bar.width - x)
         spacing: Math.round(18 * bar.__ratio)
 
         Repeater {
