@@ -83,6 +83,89 @@ public:
     */
     static VynUIQmlConstants* create(QQmlEngine* p_qmlEngine, QJSEngine* p_jsEngine);
 
+    // Members the module's own controls call in their bindings come first. The QML
+    // engine resolves a call by comparing the member with every member declared before
+    // it in this class, so the members called most often are declared first (this
+    // changes their order only, never their names, arguments or results).
+
+    Q_INVOKABLE static double disabledAlpha(); //!< 0.75
+    Q_INVOKABLE static double offlineAlpha();  //!< 0.62
+    // Host services: see the other presenters below.
+    Q_INVOKABLE static QCoreWindowController* windowControllerForQmlObject(QObject* p_object);
+    Q_INVOKABLE static QQuickWindow* windowForQmlObject(QObject* p_object);
+    Q_INVOKABLE static QApplicationMessage* presentConfirmMessage(
+        const QString& p_title, const QString& p_message, int p_tag, int p_level, int p_type,
+        const QStringList& p_buttonTitles, const QVariant& p_windowControllers, QObject* p_parent,
+        const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
+    /*!
+        The localised text of \a p_key in the QtCommons table \a p_table ("VynLocalizable"
+        or "VynUILocalizable"), for documents that show the module's words ("MULTIPLE_SHORT").
+        An unknown key answers what QtCommons answers for it.
+    */
+    Q_INVOKABLE static QString
+    localizedString(const QString& p_key,
+                    const QString& p_table = QStringLiteral("VynLocalizable"));
+    /*!
+        Slide-field acceleration: the number of zones, round(4 x ratio), and per
+        zone (index 0 to 3) its rate ratio x (0.25, 1, 2.5, 4) and its start
+        distance ratio x (0, 100, 200, 300), both unrounded. An index outside
+        0 to 3 reads the nearest zone.
+    */
+    Q_INVOKABLE static int slideFieldZoneCount(double p_ratio = 1.0);
+    Q_INVOKABLE static double slideFieldRate(int p_index, double p_ratio = 1.0);
+    Q_INVOKABLE static double slideFieldFrom(int p_index, double p_ratio = 1.0);
+    Q_INVOKABLE static int colorFactoryCount();
+    Q_INVOKABLE static QColor colorFactory(int p_index);
+    Q_INVOKABLE static QColor
+    controlBorderRedColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor controlColorForStyle(VynColorUtils::VynStyle p_style, int p_on);
+    Q_INVOKABLE static QColor controlBorderColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                         bool p_isDefault = false,
+                                                         bool p_isDestructive = false);
+    Q_INVOKABLE static QColor controlOnGradientColor(double p_location);
+    Q_INVOKABLE static QColor controlMixedGradientColor(double p_location);
+    Q_INVOKABLE static QColor controlOffGradientColorForStyle(
+        double p_location, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+        bool p_opaque = false, bool p_isDefault = false, bool p_isDestructive = false);
+    Q_INVOKABLE static QColor controlMixedTickColor();
+    Q_INVOKABLE static QColor controlTextColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
+                                                       bool p_isDefault = false,
+                                                       bool p_isDestructive = false);
+    Q_INVOKABLE static QColor
+    controlTouchOverColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    textViewTextColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                              int p_mixed = 0);
+    Q_INVOKABLE static QColor textViewBorderColorForStyle(VynColorUtils::VynStyle p_style,
+                                                          int p_mixed, bool p_editing);
+    Q_INVOKABLE static QColor
+    textViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    popoverBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    popoverBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    labelColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
+                       int p_level = 0);
+    Q_INVOKABLE static QColor
+    colorIconShadowColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor
+    colorIconBorderColorForStyle(const QColor& p_color,
+                                 VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+    Q_INVOKABLE static QColor colorBySettingAlpha(const QColor& p_color, double p_alpha);
+
+    // Metrics and mime types: one invokable per row of vynuimetrics.def, which gives each
+    // member's result type, name, scaling and base values.
+#define VYNUI_SIZED_METRIC(type, name, scaling, mini, small, regular, large, extraLarge)           \
+    Q_INVOKABLE static type name(VynViewUtils::VynControlSize p_controlSize =                      \
+                                     VynViewUtils::VynControlSizeRegular,                          \
+                                 double p_ratio = 1.0);
+#define VYNUI_SCALED_METRIC(type, name, scaling, base)                                             \
+    Q_INVOKABLE static type name(double p_ratio = 1.0);
+#define VYNUI_FIXED_METRIC(type, name, value) Q_INVOKABLE static type name();
+#define VYNUI_MIME_TYPE(getter, member, text) Q_INVOKABLE static QString getter();
+#include "vynuimetrics.def"
+
     // Generic helpers.
 
     //! v x ratio.
@@ -120,9 +203,6 @@ public:
     */
     Q_INVOKABLE static int colorIndexUser(double p_ratio);
 
-    Q_INVOKABLE static double disabledAlpha(); //!< 0.75
-    Q_INVOKABLE static double offlineAlpha();  //!< 0.62
-
     /*!
         Asks the platform for a dark (VynStylePrefDark) or light (VynStylePrefLight)
         native title bar for \a p_window; VynStylePrefSystem leaves the title bar
@@ -137,16 +217,11 @@ public:
     // controller (null when there is none). The presenters forward to the QApplicationMessage
     // presenters of the same names and return the message (null when nothing is shown);
     // windowControllers takes one controller or a list of them, actionTitles one text or a
-    // list, and the completion is called with (response, isChecked).
-    Q_INVOKABLE static QCoreWindowController* windowControllerForQmlObject(QObject* p_object);
-    Q_INVOKABLE static QQuickWindow* windowForQmlObject(QObject* p_object);
+    // list, and the completion is called with (response, isChecked). The look-ups and
+    // presentConfirmMessage are declared with the members called most often, above.
     Q_INVOKABLE static QApplicationMessage* presentBasicMessage(
         const QString& p_title, const QString& p_message, int p_tag, int p_level, int p_type,
         const QString& p_actionTitle, const QVariant& p_windowControllers, QObject* p_parent,
-        const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
-    Q_INVOKABLE static QApplicationMessage* presentConfirmMessage(
-        const QString& p_title, const QString& p_message, int p_tag, int p_level, int p_type,
-        const QStringList& p_buttonTitles, const QVariant& p_windowControllers, QObject* p_parent,
         const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
     Q_INVOKABLE static QApplicationMessage* presentCustomMessage(
         const QString& p_title, const QString& p_message, int p_tag, int p_level, int p_type,
@@ -158,39 +233,8 @@ public:
         const QVariant& p_windowControllers, QObject* p_parent,
         const QJSValue& p_completion = QJSValue(), const QVariant& p_context = QVariant());
 
-    // Metrics and mime types: one invokable per row of vynuimetrics.def, which gives each
-    // member's result type, name, scaling and base values.
-#define VYNUI_SIZED_METRIC(type, name, scaling, mini, small, regular, large, extraLarge)           \
-    Q_INVOKABLE static type name(VynViewUtils::VynControlSize p_controlSize =                      \
-                                     VynViewUtils::VynControlSizeRegular,                          \
-                                 double p_ratio = 1.0);
-#define VYNUI_SCALED_METRIC(type, name, scaling, base)                                             \
-    Q_INVOKABLE static type name(double p_ratio = 1.0);
-#define VYNUI_FIXED_METRIC(type, name, value) Q_INVOKABLE static type name();
-#define VYNUI_MIME_TYPE(getter, member, text) Q_INVOKABLE static QString getter();
-#include "vynuimetrics.def"
-
-    /*!
-        The localised text of \a p_key in the QtCommons table \a p_table ("VynLocalizable"
-        or "VynUILocalizable"), for documents that show the module's words ("MULTIPLE_SHORT").
-        An unknown key answers what QtCommons answers for it.
-    */
-    Q_INVOKABLE static QString
-    localizedString(const QString& p_key,
-                    const QString& p_table = QStringLiteral("VynLocalizable"));
-
 #define VYNUI_MIME_TYPE(getter, member, text) static const QString member;
 #include "vynuimetrics.def"
-    /*!
-        Slide-field acceleration: the number of zones, round(4 x ratio), and per
-        zone (index 0 to 3) its rate ratio x (0.25, 1, 2.5, 4) and its start
-        distance ratio x (0, 100, 200, 300), both unrounded. An index outside
-        0 to 3 reads the nearest zone.
-    */
-    Q_INVOKABLE static int slideFieldZoneCount(double p_ratio = 1.0);
-    Q_INVOKABLE static double slideFieldRate(int p_index, double p_ratio = 1.0);
-    Q_INVOKABLE static double slideFieldFrom(int p_index, double p_ratio = 1.0);
-
     /*!
         Minimum sizes of the amplifier output controls, (width, height) x ratio,
         unrounded: top Mini (130, 170), Small (150, 300); bottom Mini (150, 175),
@@ -313,8 +357,6 @@ public:
     //! VynColorUtils::backgroundStyleExtreme().
     Q_INVOKABLE static VynColorUtils::VynStyle styleForColorExtreme(const QColor& p_color);
 
-    Q_INVOKABLE static int colorFactoryCount();
-    Q_INVOKABLE static QColor colorFactory(int p_index);
     Q_INVOKABLE static VynRGBColor rgbColorFactoryIndex(int p_index);
     Q_INVOKABLE static QColor
     readableColorFactoryForStyle(int p_index,
@@ -346,27 +388,12 @@ public:
     Q_INVOKABLE static QColor ledTextColor();
     Q_INVOKABLE static QColor yellowSelectionColor();
     Q_INVOKABLE static QColor
-    controlBorderRedColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor controlColorForStyle(VynColorUtils::VynStyle p_style, int p_on);
-    Q_INVOKABLE static QColor controlBorderColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
-                                                         bool p_isDefault = false,
-                                                         bool p_isDestructive = false);
-    Q_INVOKABLE static QColor
     controlFillColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor controlOnGradientColor(double p_location);
     Q_INVOKABLE static QColor controlOnRedGradientColor(double p_location);
-    Q_INVOKABLE static QColor controlMixedGradientColor(double p_location);
-    Q_INVOKABLE static QColor controlOffGradientColorForStyle(
-        double p_location, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
-        bool p_opaque = false, bool p_isDefault = false, bool p_isDestructive = false);
     Q_INVOKABLE static QColor controlImageOnGradientColor(double p_location);
     Q_INVOKABLE static QColor controlImageOffGradientColor(double p_location,
                                                            bool p_isDefault = false,
                                                            bool p_isDestructive = false);
-    Q_INVOKABLE static QColor controlMixedTickColor();
-    Q_INVOKABLE static QColor controlTextColorForStyle(VynColorUtils::VynStyle p_style, int p_on,
-                                                       bool p_isDefault = false,
-                                                       bool p_isDestructive = false);
     Q_INVOKABLE static QColor flatButtonFillColorForStyle(VynColorUtils::VynStyle p_style,
                                                           int p_on);
     Q_INVOKABLE static QColor flatButtonBorderColorForStyle(VynColorUtils::VynStyle p_style,
@@ -383,13 +410,6 @@ public:
     Q_INVOKABLE static QColor toolbarButtonColorForStyle(VynColorUtils::VynStyle p_style, int p_on);
     Q_INVOKABLE static QColor toolbarButtonTextColorForStyle(VynColorUtils::VynStyle p_style,
                                                              int p_on);
-    Q_INVOKABLE static QColor
-    controlTouchOverColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor
-    textViewTextColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
-                              int p_mixed = 0);
-    Q_INVOKABLE static QColor textViewBorderColorForStyle(VynColorUtils::VynStyle p_style,
-                                                          int p_mixed, bool p_editing);
     Q_INVOKABLE static QColor bridgeIconColorForStyle(VynColorUtils::VynStyle p_style, int p_level,
                                                       int p_mixed);
     Q_INVOKABLE static QColor
@@ -424,8 +444,6 @@ public:
     viewBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
                                 int p_level = 0);
     Q_INVOKABLE static QColor
-    textViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor
     tableViewBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
     Q_INVOKABLE static QColor
     tableViewBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
@@ -437,10 +455,6 @@ public:
     Q_INVOKABLE static QColor borderViewBackgroundColorForStyle(
         VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
     Q_INVOKABLE static QColor
-    popoverBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor
-    popoverBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor
     popoverShadowColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
     Q_INVOKABLE static QColor tableViewCellBackgroundColorForStyle(VynColorUtils::VynStyle p_style,
                                                                    bool p_selected, bool p_hasFocus,
@@ -449,9 +463,6 @@ public:
         const QColor& p_tint, VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
     Q_INVOKABLE static QColor tableViewCellRedOverlayColorForStyle(
         VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor
-    labelColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark,
-                       int p_level = 0);
     Q_INVOKABLE static QColor coloredLabelColorForStyle(VynColorUtils::VynStyle p_style,
                                                         int p_level);
     Q_INVOKABLE static QColor
@@ -469,11 +480,6 @@ public:
     windowBackgroundColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
     Q_INVOKABLE static QColor
     windowBorderColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor
-    colorIconShadowColorForStyle(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
-    Q_INVOKABLE static QColor
-    colorIconBorderColorForStyle(const QColor& p_color,
-                                 VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
     Q_INVOKABLE static QColor tableLabelColorForStyle(VynColorUtils::VynStyle p_style,
                                                       bool p_selected, bool p_hasFocus,
                                                       int p_level = 0);
@@ -636,7 +642,6 @@ public:
     Q_INVOKABLE static QColor colorByIncreasingLuminosityWithScale(const QColor& p_color,
                                                                    double p_scale, double p_offset);
     Q_INVOKABLE static QColor colorBySettingBrightness(const QColor& p_color, double p_brightness);
-    Q_INVOKABLE static QColor colorBySettingAlpha(const QColor& p_color, double p_alpha);
     Q_INVOKABLE static QColor colorByIncreasingSaturationWithScale(const QColor& p_color,
                                                                    double p_scale, double p_offset);
     Q_INVOKABLE static QColor colorBySettingSaturation(const QColor& p_color, double p_saturation);
