@@ -1,5 +1,8 @@
 # QML documents and script libraries live under qml/<Family>/ and are picked up here;
 # a document whose text starts with "pragma Singleton" is registered as a singleton.
+# At most one singleton document may import VynUI itself (today VynGradients): importing a
+# module loads all its singletons first, so two singletons that import it wait for each
+# other and the engine reports a cyclic dependency.
 # Images and fonts under qml/ become module resources.
 file(GLOB_RECURSE _vynui_qml CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR}
     ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.qml

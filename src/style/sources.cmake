@@ -5,5 +5,6 @@ list(APPEND VYNUI_SOURCES
     style/vynhsbtransform.h
     style/vynuiqmlconstants.h style/vynuiqmlconstants.cpp
     style/vynuimetrics.def
+    style/vynuimetrics.h style/vynuimetrics.cpp
     style/vynviewconstants.h
 )

@@ -1,12 +1,16 @@
 #include "vynuiqmlconstants.h"
 
+#include "vynuimetrics.h"
+
 #include <qtcommonsconstants.h>
 #include <qtcommonstitlebar.h>
 #include <vynfileutils.h>
 
+#include <QHash>
 #include <QJSEngine>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QThread>
 #include <QWindow>
 
 #include <algorithm>
@@ -156,6 +160,62 @@ VynUIQmlConstants* VynUIQmlConstants::create(QQmlEngine* p_qmlEngine, QJSEngine*
     VynUIQmlConstants* constants = instance();
     QJSEngine::setObjectOwnership(constants, QJSEngine::CppOwnership);
     return constants;
+}
+
+namespace {
+
+// A look as the metrics cache keys it: ratios by their bits, every NaN alike and -0 as 0.
+struct MetricsKey
+{
+    int controlSize;
+    int style;
+    quint64 ratio;
+    quint64 fontRatio;
+
+    friend bool operator==(const MetricsKey& p_a, const MetricsKey& p_b)
+    {
+        return p_a.controlSize == p_b.controlSize && p_a.style == p_b.style &&
+               p_a.ratio == p_b.ratio && p_a.fontRatio == p_b.fontRatio;
+    }
+    friend size_t qHash(const MetricsKey& p_key, size_t p_seed = 0)
+    {
+        return qHashMulti(p_seed, p_key.controlSize, p_key.style, p_key.ratio, p_key.fontRatio);
+    }
+};
+
+quint64 ratioBits(double p_ratio)
+{
+    if (std::isnan(p_ratio))
+        p_ratio = std::numeric_limits<double>::quiet_NaN();
+    else if (p_ratio == 0.0)
+        p_ratio = 0.0;
+    quint64 bits = 0;
+    std::memcpy(&bits, &p_ratio, sizeof bits);
+    return bits;
+}
+
+constexpr qsizetype kMaxCachedMetrics = 1024;
+
+} // namespace
+
+VynUIMetrics* VynUIQmlConstants::metrics(int p_controlSize, double p_ratio, double p_fontRatio,
+                                         int p_style)
+{
+    VynUIQmlConstants* owner = instance();
+    if (QThread::currentThread() != owner->thread())
+        return new VynUIMetrics(p_controlSize, p_ratio, p_fontRatio, p_style);
+
+    static QHash<MetricsKey, VynUIMetrics*> s_cache;
+    const MetricsKey key{VynUIMetrics::normalisedControlSize(p_controlSize),
+                         VynUIMetrics::normalisedStyle(p_style), ratioBits(p_ratio),
+                         ratioBits(p_fontRatio)};
+    if (VynUIMetrics* cached = s_cache.value(key))
+        return cached;
+    if (s_cache.size() >= kMaxCachedMetrics)
+        return new VynUIMetrics(p_controlSize, p_ratio, p_fontRatio, p_style);
+    auto* created = new VynUIMetrics(p_controlSize, p_ratio, p_fontRatio, p_style, owner);
+    s_cache.insert(key, created);
+    return created;
 }
 
 // Generic helpers.

@@ -28,6 +28,10 @@
 
 class QJSEngine;
 class QQmlEngine;
+// Declared only: moc reads vynuimetrics.def once per run, and this class needs it for its
+// own members.
+class VynUIMetrics;
+Q_MOC_INCLUDE("vynuimetrics.h")
 
 /*!
     The catalogue every QML document of the module reads its metrics from:
@@ -87,6 +91,21 @@ public:
     // engine resolves a call by comparing the member with every member declared before
     // it in this class, so the members called most often are declared first (this
     // changes their order only, never their names, arguments or results).
+
+    /*!
+        The metrics and colours of one look, as properties (see VynUIMetrics): a control
+        binds one property to this and reads every metric from it. \a p_controlSize and
+        \a p_style are normalised as everywhere in the catalogue; \a p_ratio scales the
+        metrics and \a p_fontRatio the font sizes.
+
+        Every call with the same (normalised) arguments answers the same object, owned by
+        the catalogue: a control's metrics are computed once per change of its look, not
+        per binding. Past 1024 distinct looks (a host animating a ratio), or when called
+        from another thread than the catalogue's, the answer is a new object without a
+        parent, which the calling QML engine owns and collects.
+    */
+    Q_INVOKABLE static VynUIMetrics* metrics(int p_controlSize, double p_ratio, double p_fontRatio,
+                                             int p_style);
 
     Q_INVOKABLE static double disabledAlpha(); //!< 0.75
     Q_INVOKABLE static double offlineAlpha();  //!< 0.62

@@ -1,7 +1,6 @@
 pragma Singleton
 
 import QtQuick
-import VynUI 1.2
 
 // The catalogue of the module's own images, by name.
 //
@@ -47,7 +46,8 @@ QtObject {
             return ""
         }
         const entry = __catalogue[p_name]
-        const file = p_vynStyle === VynColorUtils.VynStyleLight ? entry.light : entry.dark
+        // 0 is VynColorUtils.VynStyleLight (see the import note in sources.cmake).
+        const file = p_vynStyle === 0 ? entry.light : entry.dark
         return Qt.resolvedUrl(file)
     }
 }

@@ -173,17 +173,17 @@ VynItem {
     }
 
     // The position of a value along the axis (in axis coordinates, see above).
-    function positionForValue(p_value) {
+    function positionForValue(p_value: real): real {
         const v = _clamped(p_value)
         const offset = reverse ? to - v : v - from
         return _trackStart + offset * _trackLength / valueRange
     }
-    function valueForPosition(p_position) {
+    function valueForPosition(p_position: real): real {
         const offset = (p_position - _trackStart) * valueRange / _trackLength
         return _clamped(reverse ? to - offset : from + offset)
     }
 
-    function _clamped(p_value) {
+    function _clamped(p_value: real): real {
         return Math.max(Math.min(from, to), Math.min(Math.max(from, to), p_value))
     }
 
@@ -237,43 +237,43 @@ VynItem {
     // --- Geometry (axis coordinates) ---
     readonly property real _axisLength: vertical ? height : width
     readonly property real _crossLength: vertical ? width : height
-    readonly property real _thumbLength: VynUIQmlConstants.sliderThumbWidth(vynControlSize, vynPixelRatio)
-    readonly property real _thumbCross: VynUIQmlConstants.sliderThumbHeight(vynControlSize, vynPixelRatio)
-    readonly property real _trackStart: _thumbLength / 2 + VynUIQmlConstants.sliderInsetsH(vynControlSize, vynPixelRatio)
+    readonly property real _thumbLength: vynMetrics.sliderThumbWidth
+    readonly property real _thumbCross: vynMetrics.sliderThumbHeight
+    readonly property real _trackStart: _thumbLength / 2 + vynMetrics.sliderInsetsH
     readonly property real _trackLength: Math.max(1, _axisLength - 2 * _trackStart)
     // A value not known yet (NaN) shows no thumb and no fill; the thumb waits at the start.
-    readonly property bool _valueKnown: !isNaN(displayedValue)
+    readonly property bool _valueKnown: displayedValue === displayedValue
     readonly property real _thumbPosition: _valueKnown ? positionForValue(displayedValue) : _trackStart
     readonly property real _zeroPosition: positionForValue(from <= 0 && to >= 0 ? 0 : from)
 
     // Axis coordinate of a point of the control, and the coordinate across the axis.
-    function _axis(p_x, p_y) {
+    function _axis(p_x: real, p_y: real): real {
         if (vertical)
             return mirror ? p_y : height - p_y
         return mirror ? width - p_x : p_x
     }
-    function _cross(p_x, p_y) {
+    function _cross(p_x: real, p_y: real): real {
         return vertical ? p_x : p_y
     }
     // Item coordinates of an axis position (the centre of the cross axis).
-    function _itemX(p_axis) {
+    function _itemX(p_axis: real): real {
         if (vertical)
             return width / 2
         return mirror ? width - p_axis : p_axis
     }
-    function _itemY(p_axis) {
+    function _itemY(p_axis: real): real {
         if (!vertical)
             return height / 2
         return mirror ? p_axis : height - p_axis
     }
     function _onThumb(p_x, p_y) {
-        const half = Math.max(_thumbLength, VynUIQmlConstants.sliderTouchAreaOffset(vynPixelRatio)) / 2
+        const half = Math.max(_thumbLength, vynMetrics.sliderTouchAreaOffset) / 2
         return Math.abs(_axis(p_x, p_y) - _thumbPosition) <= half
     }
 
     implicitWidth: vertical ? _thumbCross : 10 * _thumbCross
     implicitHeight: vertical ? 10 * _thumbCross : _thumbCross
-    opacity: enabled ? 1.0 : VynUIQmlConstants.disabledAlpha()
+    opacity: enabled ? 1.0 : vynMetrics.disabledAlpha
 
     onValueChanged: displayedValue = value
     onValuesChanged: updateValueForMixedState.call(root)
@@ -284,7 +284,7 @@ VynItem {
     }
 
     // --- Drawing ---
-    readonly property real _trackThickness: VynUIQmlConstants.sliderTrackHeight(vynControlSize, vynPixelRatio)
+    readonly property real _trackThickness: vynMetrics.sliderTrackHeight
 
     Rectangle {
         id: track
@@ -297,11 +297,11 @@ VynItem {
         y: root.vertical ? Math.min(startY, endY) : Math.round((root.height - height) / 2)
         width: root.vertical ? root._trackThickness : root._trackLength
         height: root.vertical ? root._trackLength : root._trackThickness
-        radius: VynUIQmlConstants.sliderTrackCornerRadius(root.vynControlSize, root.vynPixelRatio)
+        radius: root.vynMetrics.sliderTrackCornerRadius
         // A well in the background colour of text views, framed like the thumb.
-        color: VynUIQmlConstants.textViewBackgroundColorForStyle(root.vynStyle)
-        border.width: Math.max(1, VynUIQmlConstants.sliderThumbBorder(root.vynPixelRatio))
-        border.color: VynUIQmlConstants.controlBorderColorForStyle(root.vynStyle, 0)
+        color: root.vynMetrics.textViewBackgroundColor
+        border.width: Math.max(1, root.vynMetrics.sliderThumbBorder)
+        border.color: root.vynMetrics.controlBorderColor
     }
 
     // The filled part, from zero (or `from`) to the thumb.
@@ -319,11 +319,7 @@ VynItem {
         width: root.vertical ? track.width : Math.abs(x2 - x1)
         height: root.vertical ? Math.abs(y2 - y1) : track.height
         radius: track.radius
-        gradient: Gradient {
-            orientation: root.vertical ? Gradient.Horizontal : Gradient.Vertical
-            GradientStop { position: 0.0; color: VynUIQmlConstants.controlOnGradientColor(0) }
-            GradientStop { position: 1.0; color: VynUIQmlConstants.controlOnGradientColor(1) }
-        }
+        gradient: root.vertical ? VynGradients.onHorizontal : VynGradients.onVertical
     }
 
     // Step ticks: 1 + valueRange / stepSize marks over the track minus the thumb.
@@ -336,13 +332,13 @@ VynItem {
             readonly property real axisPosition: root._trackStart
                                                  + (ticks.count > 1 ? index * root._trackLength / (ticks.count - 1) : 0)
             readonly property real tickLength: Math.round(root._crossLength * 0.6)
-            readonly property real tickWidth: Math.max(1, VynUIQmlConstants.sliderTickSize(root.vynPixelRatio))
+            readonly property real tickWidth: Math.max(1, root.vynMetrics.sliderTickSize)
             width: root.vertical ? tickLength : tickWidth
             height: root.vertical ? tickWidth : tickLength
             x: root.vertical ? Math.round((root.width - width) / 2) : Math.round(root._itemX(axisPosition) - width / 2)
             y: root.vertical ? Math.round(root._itemY(axisPosition) - height / 2) : Math.round((root.height - height) / 2)
             z: -1
-            color: VynUIQmlConstants.labelColorForStyle(root.vynStyle, 2)
+            color: root.vynMetrics.labelColorTertiary
         }
     }
 
@@ -356,31 +352,26 @@ VynItem {
         height: root.vertical ? root._thumbLength : root._thumbCross
         x: Math.round(centreX - width / 2)
         y: Math.round(centreY - height / 2)
-        radius: Math.min(width, height) * VynUIQmlConstants.sliderThumbCornerRadiusRatio()
-        border.width: Math.max(1, VynUIQmlConstants.sliderThumbBorder(root.vynPixelRatio))
-        border.color: VynUIQmlConstants.controlBorderColorForStyle(root.vynStyle, root.pressed ? 1 : 0)
-        gradient: Gradient {
-            orientation: root.vertical ? Gradient.Horizontal : Gradient.Vertical
-            GradientStop {
-                position: 0.0
-                color: root.mixed ? VynUIQmlConstants.controlMixedGradientColor(0)
-                                  : root.pressed ? VynUIQmlConstants.controlOnGradientColor(0)
-                                                 : VynUIQmlConstants.controlOffGradientColorForStyle(0, root.vynStyle, true)
-            }
-            GradientStop {
-                position: 1.0
-                color: root.mixed ? VynUIQmlConstants.controlMixedGradientColor(1)
-                                  : root.pressed ? VynUIQmlConstants.controlOnGradientColor(1)
-                                                 : VynUIQmlConstants.controlOffGradientColorForStyle(1, root.vynStyle, true)
-            }
-        }
+        radius: Math.min(width, height) * root.vynMetrics.sliderThumbCornerRadiusRatio
+        border.width: Math.max(1, root.vynMetrics.sliderThumbBorder)
+        border.color: (root.pressed ? root.vynMetrics.controlBorderColorOn : root.vynMetrics.controlBorderColor)
+        // Shared gradients: mixed, pressed, or off in the look's style.
+        gradient: root.vertical
+                  ? (root.mixed ? VynGradients.mixedHorizontal
+                                : root.pressed ? VynGradients.onHorizontal
+                                               : root.vynMetrics.style === VynColorUtils.VynStyleLight
+                                                 ? VynGradients.offLightHorizontal : VynGradients.offDarkHorizontal)
+                  : (root.mixed ? VynGradients.mixedVertical
+                                : root.pressed ? VynGradients.onVertical
+                                               : root.vynMetrics.style === VynColorUtils.VynStyleLight
+                                                 ? VynGradients.offLightVertical : VynGradients.offDarkVertical)
         // The grip line across the thumb.
         Rectangle {
             anchors.centerIn: parent
-            width: root.vertical ? parent.width * 0.5 : Math.max(1, VynUIQmlConstants.sliderTickSize(root.vynPixelRatio))
-            height: root.vertical ? Math.max(1, VynUIQmlConstants.sliderTickSize(root.vynPixelRatio)) : parent.height * 0.5
-            color: root.mixed ? VynUIQmlConstants.controlMixedTickColor()
-                              : VynUIQmlConstants.controlBorderColorForStyle(root.vynStyle, root.pressed ? 1 : 0)
+            width: root.vertical ? parent.width * 0.5 : Math.max(1, root.vynMetrics.sliderTickSize)
+            height: root.vertical ? Math.max(1, root.vynMetrics.sliderTickSize) : parent.height * 0.5
+            color: root.mixed ? root.vynMetrics.controlMixedTickColor
+                              : (root.pressed ? root.vynMetrics.controlBorderColorOn : root.vynMetrics.controlBorderColor)
         }
     }
 

@@ -1,4 +1,5 @@
 #include <vyncolorappearance.h>
+#include <vynuimetrics.h>
 #include <vynuiplugin.h>
 #include <vynuiqmlconstants.h>
 #include <vynviewconstants.h>
@@ -215,6 +216,11 @@ private slots:
 
     void singletonSharedByEngines();
     void registeredTypes();
+
+    void metricsAnswerTheCatalogue_data();
+    void metricsAnswerTheCatalogue();
+    void metricsShared();
+    void metricsFollowTheLook();
 
     void colorMembersPresent();
     void colorForwarders_data();
@@ -968,6 +974,238 @@ void tst_QmlConstants::singletonSharedByEngines()
     // Both engines are gone and the object is still alive and answering.
     QCOMPARE(callMetric("fontSize", {}), 13.0);
     QVERIFY(VynUIQmlConstants::instance()->metaObject()->inherits(&QObject::staticMetaObject));
+}
+
+namespace {
+
+// The catalogue member and arguments each colour property of VynUIMetrics answers for a style.
+struct MetricsColor
+{
+    const char* property;
+    const char* member;
+    QList<QVariant> (*args)(int style);
+};
+
+const MetricsColor kMetricsColors[] = {
+    {"controlColor", "controlColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 0};
+     }},
+    {"controlColorOn", "controlColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 1};
+     }},
+    {"controlBorderColor", "controlBorderColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 0};
+     }},
+    {"controlBorderColorOn", "controlBorderColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 1};
+     }},
+    {"controlBorderRedColor", "controlBorderRedColorForStyle",
+     [](int s) { return QList<QVariant>{s}; }},
+    {"controlTextColor", "controlTextColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 0};
+     }},
+    {"controlTextColorOn", "controlTextColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 1};
+     }},
+    {"controlTouchOverColor", "controlTouchOverColorForStyle",
+     [](int s) { return QList<QVariant>{s}; }},
+    {"controlOffGradientColorStart", "controlOffGradientColorForStyle",
+     [](int s) {
+         return QList<QVariant>{0.0, s, true};
+     }},
+    {"controlOffGradientColorEnd", "controlOffGradientColorForStyle",
+     [](int s) {
+         return QList<QVariant>{1.0, s, true};
+     }},
+    {"controlOnGradientColorStart", "controlOnGradientColor",
+     [](int) { return QList<QVariant>{0.0}; }},
+    {"controlOnGradientColorMiddle", "controlOnGradientColor",
+     [](int) { return QList<QVariant>{0.5}; }},
+    {"controlOnGradientColorEnd", "controlOnGradientColor",
+     [](int) { return QList<QVariant>{1.0}; }},
+    {"controlMixedGradientColorStart", "controlMixedGradientColor",
+     [](int) { return QList<QVariant>{0.0}; }},
+    {"controlMixedGradientColorEnd", "controlMixedGradientColor",
+     [](int) { return QList<QVariant>{1.0}; }},
+    {"controlMixedTickColor", "controlMixedTickColor", [](int) { return QList<QVariant>{}; }},
+    {"textViewBackgroundColor", "textViewBackgroundColorForStyle",
+     [](int s) { return QList<QVariant>{s}; }},
+    {"textViewTextColor", "textViewTextColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 0};
+     }},
+    {"textViewTextColorMixed", "textViewTextColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 1};
+     }},
+    {"textViewBorderColor", "textViewBorderColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 0, false};
+     }},
+    {"textViewBorderColorMixed", "textViewBorderColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 1, false};
+     }},
+    {"textViewBorderColorEditing", "textViewBorderColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 0, true};
+     }},
+    {"textViewBorderColorMixedEditing", "textViewBorderColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 1, true};
+     }},
+    {"labelColor", "labelColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 0};
+     }},
+    {"labelColorSecondary", "labelColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 1};
+     }},
+    {"labelColorTertiary", "labelColorForStyle",
+     [](int s) {
+         return QList<QVariant>{s, 2};
+     }},
+    {"popoverBackgroundColor", "popoverBackgroundColorForStyle",
+     [](int s) { return QList<QVariant>{s}; }},
+    {"popoverBorderColor", "popoverBorderColorForStyle", [](int s) { return QList<QVariant>{s}; }},
+    {"colorIconShadowColor", "colorIconShadowColorForStyle",
+     [](int s) { return QList<QVariant>{s}; }},
+};
+
+bool sameNumberOrAnswer(const QVariant& a, const QVariant& b)
+{
+    if (a.typeId() == QMetaType::Double && b.typeId() == QMetaType::Double &&
+        std::isnan(a.toDouble()) && std::isnan(b.toDouble()))
+        return true;
+    return sameAnswer(a, b);
+}
+
+} // namespace
+
+void tst_QmlConstants::metricsAnswerTheCatalogue_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<double>("fontRatio");
+    QTest::addColumn<int>("style");
+    QTest::newRow("regular dark") << 2 << 1.0 << 1.0 << 1;
+    QTest::newRow("mini light, apart ratios") << 0 << 1.5 << 2.0 << 0;
+    QTest::newRow("extra large, fractional") << 4 << 0.75 << 1.25 << 1;
+    QTest::newRow("size below the table, style below light") << -3 << 2.0 << 1.0 << -5;
+    QTest::newRow("size past the table, style past dark") << 9 << 1.0 << 3.0 << 7;
+    QTest::newRow("ratio not a number") << 1 << std::nan("") << 1.0 << 0;
+    QTest::newRow("infinite font ratio") << 3 << 1.0 << qInf() << 1;
+}
+
+// Every property of a metrics object answers what the catalogue answers for its look: the
+// metric of the same name at the ratio (the font ratio for font sizes), the colours as
+// listed above. A property that neither rule covers fails the test.
+void tst_QmlConstants::metricsAnswerTheCatalogue()
+{
+    QFETCH(int, size);
+    QFETCH(double, ratio);
+    QFETCH(double, fontRatio);
+    QFETCH(int, style);
+    VynUIMetrics* metrics = VynUIQmlConstants::metrics(size, ratio, fontRatio, style);
+    QVERIFY(metrics);
+    QCOMPARE(metrics->controlSize(), qBound(0, size, 4));
+    QCOMPARE(metrics->style(), style <= 0 ? 0 : 1);
+
+    const QMetaObject* meta = metrics->metaObject();
+    const QMetaObject* catalogue = VynUIQmlConstants::instance()->metaObject();
+    int metricsChecked = 0;
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        const QMetaProperty property = meta->property(i);
+        const QByteArray name = property.name();
+        if (name == "controlSize" || name == "ratio" || name == "fontRatio" || name == "style")
+            continue;
+        const QVariant actual = property.read(metrics);
+        const auto color = std::find_if(std::begin(kMetricsColors), std::end(kMetricsColors),
+                                        [&](const MetricsColor& c) { return name == c.property; });
+        if (color != std::end(kMetricsColors)) {
+            QVERIFY2(sameAnswer(actual, callMember(color->member, color->args(style))),
+                     name.constData());
+            continue;
+        }
+        int parameters = -1;
+        for (int m = catalogue->methodOffset(); m < catalogue->methodCount(); ++m) {
+            if (catalogue->method(m).name() == name)
+                parameters = qMax(parameters, catalogue->method(m).parameterCount());
+        }
+        QVERIFY2(parameters >= 0, "no catalogue member answers " + name);
+        const double r = name.contains("ontSize") ? fontRatio : ratio;
+        const QList<QVariant> args = parameters == 2   ? QList<QVariant>{size, r}
+                                     : parameters == 1 ? QList<QVariant>{r}
+                                                       : QList<QVariant>{};
+        const QVariant expected = callMember(name.constData(), args);
+        QCOMPARE(actual.metaType(), expected.metaType());
+        QVERIFY2(sameNumberOrAnswer(actual, expected),
+                 name + ": " + actual.toString().toUtf8() + " != " + expected.toString().toUtf8());
+        ++metricsChecked;
+    }
+    QVERIFY(metricsChecked > 250);
+}
+
+void tst_QmlConstants::metricsShared()
+{
+    VynUIMetrics* regular = VynUIQmlConstants::metrics(2, 1.0, 1.0, 1);
+    QCOMPARE(regular->parent(), VynUIQmlConstants::instance());
+    QCOMPARE(VynUIQmlConstants::metrics(2, 1.0, 1.0, 1), regular);
+    // Looks that read the same rows share one object; others do not.
+    QCOMPARE(VynUIQmlConstants::metrics(2, 1.0, 1.0, 5), regular);
+    QCOMPARE(VynUIQmlConstants::metrics(2, -0.0, 1.0, 1),
+             VynUIQmlConstants::metrics(2, 0.0, 1.0, 1));
+    QCOMPARE(VynUIQmlConstants::metrics(9, 1.0, 1.0, 1),
+             VynUIQmlConstants::metrics(4, 1.0, 1.0, 1));
+    QCOMPARE(VynUIQmlConstants::metrics(2, std::nan(""), 1.0, 1),
+             VynUIQmlConstants::metrics(2, -std::nan(""), 1.0, 1));
+    QVERIFY(VynUIQmlConstants::metrics(2, 1.0, 1.0, 0) != regular);
+    QVERIFY(VynUIQmlConstants::metrics(2, 1.0, 1.5, 1) != regular);
+    QVERIFY(VynUIQmlConstants::metrics(3, 1.0, 1.0, 1) != regular);
+
+    // A host animating a ratio gets objects that its engine collects once the cache is full.
+    QObject* last = nullptr;
+    for (int i = 0; i < 1100; ++i)
+        last = VynUIQmlConstants::metrics(2, 10.0 + i / 1000.0, 1.0, 1);
+    QCOMPARE(last->parent(), nullptr);
+    delete last;
+    QCOMPARE(VynUIQmlConstants::metrics(2, 1.0, 1.0, 1), regular);
+}
+
+void tst_QmlConstants::metricsFollowTheLook()
+{
+    QQmlEngine engine;
+    engine.addImportPath(QStringLiteral(VYNUI_QML_IMPORT_PATH));
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\nimport VynUI 1.2\n"
+                      "VynItem { property real margin: vynMetrics.marginSpace;"
+                      " property color label: vynMetrics.labelColor;"
+                      " property int font: vynMetrics.fontSize }",
+                      QUrl());
+    std::unique_ptr<QObject> item(component.create());
+    QVERIFY2(item, qPrintable(component.errorString()));
+    QCOMPARE(item->property("margin").toDouble(), 8.0);
+    QCOMPARE(item->property("font").toInt(), 13);
+    QCOMPARE(item->property("label").value<QColor>(),
+             VynUIQmlConstants::labelColorForStyle(VynColorUtils::VynStyleDark, 0));
+    item->setProperty("vynControlSize", int(Large));
+    QCOMPARE(item->property("margin").toDouble(), 16.0);
+    QCOMPARE(item->property("font").toInt(), 15);
+    item->setProperty("vynPixelRatio", 1.5);
+    QCOMPARE(item->property("margin").toDouble(), 24.0);
+    QCOMPARE(item->property("font").toInt(), 15);
+    item->setProperty("vynPixelRatioFont", 2.0);
+    QCOMPARE(item->property("font").toInt(), 30);
+    item->setProperty("vynStyle", int(VynColorUtils::VynStyleLight));
+    QCOMPARE(item->property("label").value<QColor>(),
+             VynUIQmlConstants::labelColorForStyle(VynColorUtils::VynStyleLight, 0));
 }
 
 void tst_QmlConstants::registeredTypes()
