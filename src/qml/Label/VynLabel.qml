@@ -12,6 +12,9 @@ Label {
     property real vynPixelRatio: 1.0
     property real vynPixelRatioFont: 1.0
     property int vynControlSize: VynViewUtils.VynControlSizeRegular
+    // The catalogue's metrics and colours for this look (see VynItem).
+    readonly property VynUIMetrics vynMetrics: VynUIQmlConstants.metrics(vynControlSize, vynPixelRatio,
+                                                                         vynPixelRatioFont, vynStyle)
     // Emphasis level of the text colour: 0 primary, 1 secondary, 2 tertiary.
     property int level: 0
     property color vynBkgdColor: "transparent"
@@ -22,15 +25,16 @@ Label {
     property alias fontStyle: root.font.styleName
     property alias textColor: root.color
 
-    font.pixelSize: VynUIQmlConstants.fontSize(vynControlSize, vynPixelRatioFont)
+    font.pixelSize: vynMetrics.fontSize
     font.family: VynFonts.vynFamilyRegular
     verticalAlignment: Text.AlignVCenter
     elide: Text.ElideRight
-    color: VynUIQmlConstants.labelColorForStyle(vynStyle, level)
+    color: level <= 0 ? vynMetrics.labelColor : level === 1 ? vynMetrics.labelColorSecondary
+                                                            : vynMetrics.labelColorTertiary
 
     background: Rectangle {
         color: root.vynBkgdColor
         border.color: root.vynBorderColor
-        radius: VynUIQmlConstants.flatButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
+        radius: root.vynMetrics.flatButtonCornerRadius
     }
 }

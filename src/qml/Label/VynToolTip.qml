@@ -10,21 +10,24 @@ ToolTip {
     property int vynStyle: VynColorUtils.VynStyleDark
     property real vynPixelRatio: 1.0
     property real vynPixelRatioFont: 1.0
+    // The catalogue's metrics and colours for this look (see VynItem).
+    readonly property VynUIMetrics vynMetrics: VynUIQmlConstants.metrics(VynViewUtils.VynControlSizeRegular, vynPixelRatio,
+                                                                         vynPixelRatioFont, vynStyle)
 
     font.pixelSize: VynUIQmlConstants.fontSize(VynViewUtils.VynControlSizeSmall, vynPixelRatioFont)
     font.family: VynFonts.vynFamilyRegular
-    padding: VynUIQmlConstants.marginSpace(VynViewUtils.VynControlSizeRegular, vynPixelRatio)
+    padding: vynMetrics.marginSpace
 
     contentItem: Text {
         text: root.text
         font: root.font
-        color: VynUIQmlConstants.labelColorForStyle(root.vynStyle, 0)
+        color: root.vynMetrics.labelColor
         wrapMode: Text.Wrap
     }
 
     background: Rectangle {
-        color: VynUIQmlConstants.popoverBackgroundColorForStyle(root.vynStyle)
-        border.color: VynUIQmlConstants.popoverBorderColorForStyle(root.vynStyle)
-        radius: VynUIQmlConstants.popoverCornerRadius(root.vynPixelRatio)
+        color: root.vynMetrics.popoverBackgroundColor
+        border.color: root.vynMetrics.popoverBorderColor
+        radius: root.vynMetrics.popoverCornerRadius
     }
 }

@@ -105,8 +105,8 @@ VynTextField {
     }
 
     defaultText: textForIndex(value)
-    color: _typedOutOfRange ? VynUIQmlConstants.controlBorderRedColorForStyle(vynStyle)
-                            : VynUIQmlConstants.textViewTextColorForStyle(vynStyle, mixed ? 1 : 0)
+    color: _typedOutOfRange ? vynMetrics.controlBorderRedColor
+                            : mixed ? vynMetrics.textViewTextColorMixed : vynMetrics.textViewTextColor
     horizontalAlignment: TextInput.AlignRight
     onTextEdited: {
         const typed = _parseTyped(text)

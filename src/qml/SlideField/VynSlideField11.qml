@@ -400,34 +400,34 @@ VynTextField {
     onPlusClicked: plusAction.call(root)
 
     // --- Geometry ---
-    readonly property real _fieldHeight: VynUIQmlConstants.textFieldHeight(vynControlSize, vynPixelRatio)
-    readonly property real _border: Math.max(1, VynUIQmlConstants.textFieldBorder(vynPixelRatio))
+    readonly property real _fieldHeight: vynMetrics.textFieldHeight
+    readonly property real _border: Math.max(1, vynMetrics.textFieldBorder)
     readonly property real _titleRoom: hasTitle && !compressed
                                        ? (titleWidth > 0 ? titleWidth
                                                          : Math.ceil(_titleItem ? _titleItem.implicitWidth : 0))
-                                         + VynUIQmlConstants.textFieldLabelTextSpacing(vynControlSize, vynPixelRatio)
+                                         + vynMetrics.textFieldLabelTextSpacing
                                        : 0
     readonly property real _handleSize: allowsPanning
-                                        ? Math.max(VynUIQmlConstants.textFieldPanningIconHeightMin(vynPixelRatio),
-                                                   Math.round(height * VynUIQmlConstants.textFieldPanningIconHeightRatio()))
+                                        ? Math.max(vynMetrics.textFieldPanningIconHeightMin,
+                                                   Math.round(height * vynMetrics.textFieldPanningIconHeightRatio))
                                         : 0
     readonly property real _handleRoom: allowsPanning
-                                        ? VynUIQmlConstants.textFieldPanningIconInsetsL(vynControlSize, vynPixelRatio)
+                                        ? vynMetrics.textFieldPanningIconInsetsL
                                           + _handleSize
-                                          + VynUIQmlConstants.textFieldPanningIconTextSpacing(vynControlSize, vynPixelRatio)
+                                          + vynMetrics.textFieldPanningIconTextSpacing
                                         : 0
     readonly property bool _showsUnit: (displaysUnit || unitText.length > 0) && !compressed
                                        && unitText.length > 0
     readonly property real _unitRoom: _showsUnit
-                                      ? (_unitItem ? _unitItem.width : 0) + VynUIQmlConstants.textFieldUnitButtonTextSpacing(vynControlSize, vynPixelRatio)
-                                        + VynUIQmlConstants.textFieldUnitButtonInsetsTBL(vynControlSize, vynPixelRatio)
+                                      ? (_unitItem ? _unitItem.width : 0) + vynMetrics.textFieldUnitButtonTextSpacing
+                                        + vynMetrics.textFieldUnitButtonInsetsTBL
                                       : 0
     readonly property real _minusWidth: _minusItem ? _minusItem.width : 0
     readonly property real _plusWidth: _plusItem ? _plusItem.width : 0
     readonly property real _buttonsRoom: (hasMinus ? _minusWidth : 0) + (hasPlus ? _plusWidth : 0)
 
     readonly property real _buttonsGap: hasMinus || hasPlus
-                                        ? VynUIQmlConstants.marginSpace(vynControlSize, vynPixelRatio) : 0
+                                        ? vynMetrics.marginSpace : 0
 
     implicitHeight: _fieldHeight
     implicitWidth: autoResize
@@ -435,7 +435,7 @@ VynTextField {
                    : _titleRoom + _buttonsRoom + _buttonsGap + 4 * _fieldHeight + _handleRoom + _unitRoom
     leftInset: _titleRoom
     rightInset: _buttonsRoom + _buttonsGap
-    textInsetLeft: allowsPanning ? _handleRoom - VynUIQmlConstants.textFieldTextInsetsH(vynControlSize, vynPixelRatio) : 0
+    textInsetLeft: allowsPanning ? _handleRoom - vynMetrics.textFieldTextInsetsH : 0
     textInsetRight: _unitRoom
 
     maximumLength: 100
@@ -473,7 +473,7 @@ VynTextField {
             id: panHandle
             objectName: "panningHandle"
             visible: root.allowsPanning
-            x: root.leftInset + VynUIQmlConstants.textFieldPanningIconInsetsL(root.vynControlSize, root.vynPixelRatio)
+            x: root.leftInset + root.vynMetrics.textFieldPanningIconInsetsL
             height: root._handleSize
             width: height
             y: Math.round((root.height - height) / 2)
@@ -487,7 +487,7 @@ VynTextField {
                 sourceSize.height: height
                 fillMode: Image.PreserveAspectFit
                 smooth: true
-                opacity: root.panning || handleArea.containsMouse ? 1.0 : VynUIQmlConstants.offlineAlpha()
+                opacity: root.panning || handleArea.containsMouse ? 1.0 : root.vynMetrics.offlineAlpha
             }
 
             MouseArea {
@@ -555,31 +555,31 @@ VynTextField {
             visible: root._showsUnit
             enabled: root.allowsUnitChoosing && root.enabled
             focusPolicy: Qt.NoFocus
-            readonly property real insetTBL: VynUIQmlConstants.textFieldUnitButtonInsetsTBL(root.vynControlSize, root.vynPixelRatio)
+            readonly property real insetTBL: root.vynMetrics.textFieldUnitButtonInsetsTBL
             x: root.width - root.rightInset - width - insetTBL
             y: insetTBL + root._border
             height: root.height - 2 * (insetTBL + root._border)
             readonly property real chevronSize: root.allowsUnitChoosing
-                                                ? Math.round(VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont) * 0.8) : 0
+                                                ? Math.round(root.vynMetrics.fontSize * 0.8) : 0
             width: Math.ceil(unitMetrics.advanceWidth) + chevronSize
-                   + (root.allowsUnitChoosing ? VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio) : 0)
-                   + 2 * VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
+                   + (root.allowsUnitChoosing ? root.vynMetrics.textFieldUnitButtonTextSpacing : 0)
+                   + 2 * root.vynMetrics.textFieldUnitButtonTitleInsetsH
             TextMetrics {
                 id: unitMetrics
-                font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+                font.pixelSize: root.vynMetrics.fontSize
                 font.family: VynFonts.vynFamilyRegular
                 text: root.unitText
             }
             background: Rectangle {
                 visible: root.allowsUnitChoosing
-                radius: VynUIQmlConstants.popupButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
+                radius: root.vynMetrics.popupButtonCornerRadius
                 color: unitButton.pressed || (unitButton.menu !== null && unitButton.menu.visible)
-                       ? VynUIQmlConstants.controlColorForStyle(root.vynStyle, 1)
-                       : unitButton.hovered ? VynUIQmlConstants.controlTouchOverColorForStyle(root.vynStyle) : "transparent"
+                       ? root.vynMetrics.controlColorOn
+                       : unitButton.hovered ? root.vynMetrics.controlTouchOverColor : "transparent"
             }
             contentItem: Row {
-                leftPadding: VynUIQmlConstants.textFieldUnitButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio)
-                spacing: VynUIQmlConstants.textFieldUnitButtonTextSpacing(root.vynControlSize, root.vynPixelRatio)
+                leftPadding: root.vynMetrics.textFieldUnitButtonTitleInsetsH
+                spacing: root.vynMetrics.textFieldUnitButtonTextSpacing
                 VynLabel {
                     height: unitButton.height
                     text: root.unitText
@@ -596,7 +596,7 @@ VynTextField {
                     sourceSize.width: width
                     sourceSize.height: height
                     source: root.allowsUnitChoosing ? VynImages.url("chevronUpDown", root.vynStyle) : ""
-                    opacity: VynUIQmlConstants.offlineAlpha()
+                    opacity: root.vynMetrics.offlineAlpha
                 }
             }
             property Basic.Menu menu: null
@@ -641,13 +641,13 @@ VynTextField {
             return (w % 2) === (g % 2) ? w : w + 1
         }
         width: (minusWidth % 2) === (glyphWidth % 2) ? minusWidth : minusWidth + 1
-        readonly property real radius: VynUIQmlConstants.bezelButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
-        readonly property real borderWidth: Math.max(1, VynUIQmlConstants.bezelButtonBorder(root.vynPixelRatio))
+        readonly property real radius: root.vynMetrics.bezelButtonCornerRadius
+        readonly property real borderWidth: Math.max(1, root.vynMetrics.bezelButtonBorder)
         height: root.height
         focusPolicy: Qt.TabFocus
         FontMetrics {
             id: glyphMetrics
-            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+            font.pixelSize: root.vynMetrics.fontSize
             font.family: VynFonts.vynFamilyRegular
         }
         // A rounded face clipped so that only the outer corners stay round; a separator line
@@ -661,35 +661,26 @@ VynTextField {
                 height: parent.height
                 radius: stepButton.radius
                 border.width: stepButton.borderWidth
-                border.color: VynUIQmlConstants.controlBorderColorForStyle(root.vynStyle, stepButton.down ? 1 : 0)
-                gradient: Gradient {
-                    GradientStop {
-                        position: 0.0
-                        color: stepButton.down ? VynUIQmlConstants.controlOnGradientColor(0)
-                                               : VynUIQmlConstants.controlOffGradientColorForStyle(0, root.vynStyle, true)
-                    }
-                    GradientStop {
-                        position: 1.0
-                        color: stepButton.down ? VynUIQmlConstants.controlOnGradientColor(1)
-                                               : VynUIQmlConstants.controlOffGradientColorForStyle(1, root.vynStyle, true)
-                    }
-                }
+                border.color: stepButton.down ? root.vynMetrics.controlBorderColorOn : root.vynMetrics.controlBorderColor
+                gradient: stepButton.down ? VynGradients.onVertical
+                                          : root.vynMetrics.style === VynColorUtils.VynStyleLight
+                                            ? VynGradients.offLightVertical : VynGradients.offDarkVertical
             }
             Rectangle {
                 visible: !stepButton.rightRounded
                 x: parent.width - width
                 width: stepButton.borderWidth
                 height: parent.height
-                color: VynUIQmlConstants.controlBorderColorForStyle(root.vynStyle, 0)
+                color: root.vynMetrics.controlBorderColor
             }
         }
         contentItem: Text {
             text: stepButton.glyph
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
-            font.pixelSize: VynUIQmlConstants.fontSize(root.vynControlSize, root.vynPixelRatioFont)
+            font.pixelSize: root.vynMetrics.fontSize
             font.family: VynFonts.vynFamilyRegular
-            color: VynUIQmlConstants.controlTextColorForStyle(root.vynStyle, stepButton.down ? 1 : 0)
+            color: stepButton.down ? root.vynMetrics.controlTextColorOn : root.vynMetrics.controlTextColor
         }
         onPressAndHold: {
             if (root.panning)

@@ -11,10 +11,10 @@ VynItem {
     property string title: uiSlideFieldComponent && uiSlideFieldComponent.wantsName
                            ? uiSlideFieldComponent.name : ""
     property real titleWidth: 0
-    property real fieldWidth: 6 * VynUIQmlConstants.textFieldHeight(vynControlSize, vynPixelRatio)
+    property real fieldWidth: 6 * vynMetrics.textFieldHeight
     property alias slider: sliderItem
     property alias field: fieldItem
-    readonly property real _spacing: VynUIQmlConstants.marginSpace(vynControlSize, vynPixelRatio)
+    readonly property real _spacing: vynMetrics.marginSpace
 
     implicitHeight: Math.max(sliderItem.implicitHeight, fieldItem.implicitHeight)
     implicitWidth: titleItem.width + 12 * sliderItem.implicitHeight + fieldWidth + 2 * _spacing

@@ -38,6 +38,9 @@ Basic.TextField {
     property real vynPixelRatio: 1.0
     // Scale of the font sizes, apart from the frame's (see VynItem).
     property real vynPixelRatioFont: 1.0
+    // The catalogue's metrics and colours for this look (see VynItem).
+    readonly property VynUIMetrics vynMetrics: VynUIQmlConstants.metrics(vynControlSize, vynPixelRatio,
+                                                                         vynPixelRatioFont, vynStyle)
 
     property string defaultText: ""
     property string fullText: defaultText
@@ -94,36 +97,38 @@ Basic.TextField {
     }
 
     text: _shownText()
-    font.pixelSize: VynUIQmlConstants.fontSize(vynControlSize, vynPixelRatioFont)
+    font.pixelSize: vynMetrics.fontSize
     font.family: VynFonts.vynFamilyRegular
-    color: VynUIQmlConstants.textViewTextColorForStyle(vynStyle, mixed ? 1 : 0)
-    selectionColor: VynUIQmlConstants.controlOnGradientColor(0.5)
-    selectedTextColor: VynUIQmlConstants.controlTextColorForStyle(vynStyle, 1)
-    placeholderTextColor: VynUIQmlConstants.labelColorForStyle(vynStyle, 2)
+    color: mixed ? vynMetrics.textViewTextColorMixed : vynMetrics.textViewTextColor
+    selectionColor: vynMetrics.controlOnGradientColorMiddle
+    selectedTextColor: vynMetrics.controlTextColorOn
+    placeholderTextColor: vynMetrics.labelColorTertiary
     selectByMouse: true
     verticalAlignment: TextInput.AlignVCenter
-    opacity: enabled ? 1.0 : VynUIQmlConstants.disabledAlpha()
+    opacity: enabled ? 1.0 : vynMetrics.disabledAlpha
 
-    implicitHeight: VynUIQmlConstants.textFieldHeight(vynControlSize, vynPixelRatio)
+    implicitHeight: vynMetrics.textFieldHeight
     implicitWidth: autoResize
                    ? leftPadding + rightPadding + Math.ceil(root.advanceWidth(root.editing ? root.text : root.fullText))
-                     + 2 * VynUIQmlConstants.textFieldBorder(vynPixelRatio)
+                     + 2 * vynMetrics.textFieldBorder
                    : 6 * implicitHeight
     topPadding: 0
     bottomPadding: 0
-    leftPadding: leftInset + VynUIQmlConstants.textFieldTextInsetsH(vynControlSize, vynPixelRatio)
+    leftPadding: leftInset + vynMetrics.textFieldTextInsetsH
                  + textInsetLeft
-    rightPadding: rightInset + VynUIQmlConstants.textFieldTextInsetsH(vynControlSize, vynPixelRatio)
+    rightPadding: rightInset + vynMetrics.textFieldTextInsetsH
                   + textInsetRight
 
     background: Rectangle {
         visible: root.drawsBackground || root.drawsBorder
-        color: root.drawsBackground ? VynUIQmlConstants.textViewBackgroundColorForStyle(root.vynStyle)
+        color: root.drawsBackground ? root.vynMetrics.textViewBackgroundColor
                                     : "transparent"
-        border.width: root.drawsBorder ? Math.max(1, VynUIQmlConstants.textFieldBorder(root.vynPixelRatio)) : 0
-        border.color: VynUIQmlConstants.textViewBorderColorForStyle(root.vynStyle, root.mixed ? 1 : 0,
-                                                                    root.editing)
-        radius: VynUIQmlConstants.popupButtonCornerRadius(root.vynControlSize, root.vynPixelRatio)
+        border.width: root.drawsBorder ? Math.max(1, root.vynMetrics.textFieldBorder) : 0
+        border.color: root.mixed ? (root.editing ? root.vynMetrics.textViewBorderColorMixedEditing
+                                                 : root.vynMetrics.textViewBorderColorMixed)
+                                 : (root.editing ? root.vynMetrics.textViewBorderColorEditing
+                                                 : root.vynMetrics.textViewBorderColor)
+        radius: root.vynMetrics.popupButtonCornerRadius
     }
 
     // The width of p_text in the field's font (measured only when asked, e.g. by autoResize).
