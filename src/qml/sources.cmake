@@ -9,6 +9,10 @@ file(GLOB_RECURSE _vynui_qml CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_D
     ${CMAKE_CURRENT_SOURCE_DIR}/qml/*.js)
 list(SORT _vynui_qml)
 foreach(_file ${_vynui_qml})
+    # qml/Private/ holds the documents' own helpers: module members, but not public types.
+    if(_file MATCHES "^qml/Private/")
+        set_source_files_properties(${_file} PROPERTIES QT_QML_SKIP_QMLDIR_ENTRY TRUE)
+    endif()
     file(STRINGS ${CMAKE_CURRENT_SOURCE_DIR}/${_file} _singleton REGEX "^pragma Singleton")
     if(_singleton)
         set_source_files_properties(${_file} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)

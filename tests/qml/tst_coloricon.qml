@@ -2,6 +2,8 @@ import QtQuick
 import QtTest
 import VynUI 1.2
 
+import "../../src/qml/Private/ColorIconShape.js" as ColorIconShape
+
 // The colour swatch draws its stripes and its "no colour" diagonal as separate line items cut
 // to the rounded outline of the well: the right lines for each state, none of them reaching
 // out of the well, and the lines following a change of state.
@@ -66,7 +68,7 @@ TestCase {
         icon.setIndex(data.index)
         waitForRendering(icon)
 
-        const segments = swatchOf(icon).lineSegments()
+        const segments = swatchOf(icon).segments
         const lines = linesOf(icon)
         compare(lines.length, segments.length, "one line item per segment")
         if (data.lines === "none")
@@ -77,8 +79,9 @@ TestCase {
             verify(segments.length > 1, "stripes are several lines")
 
         const swatch = swatchOf(icon)
-        const expectedColor = data.lines === "one" ? swatch.clearedColor
-                                                   : (icon.hasColor ? icon.color : swatch.neutral)
+        const expectedColor = data.lines === "one"
+                            ? VynUIQmlConstants.controlBorderRedColorForStyle(icon.vynStyle)
+                            : (icon.hasColor ? icon.color : VynUIQmlConstants.labelColorForStyle(icon.vynStyle, 2))
         for (const s of segments) {
             verify(Qt.colorEqual(s.color, expectedColor), "line colour")
             verify(s.length > 0)
@@ -91,7 +94,7 @@ TestCase {
                 for (const side of [1, -1]) {
                     const x = s.centerX + end * dx + side * nx
                     const y = s.centerY + end * dy + side * ny
-                    verify(swatch.insideWell(x, y, -0.01),
+                    verify(ColorIconShape.insideWell(swatch.width, swatch.wellHeight, swatch.radius, x, y, -0.01),
                            "corner (" + x + ", " + y + ") lies in the well")
                 }
             }

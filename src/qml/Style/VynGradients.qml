@@ -7,7 +7,8 @@ import VynUI 1.2
 // Gradient without owning it, so every control draws with these instead of building its
 // own Gradient and stops (three objects and their bindings per gradient and control).
 //
-// Kinds: on (pressed, filled), mixed, and off in each style (the opaque off gradient).
+// Kinds: on (pressed, filled), mixed, and off in each style (the opaque off gradient), and
+// the faint shade of colour icons in each style.
 // Names end in the direction the colours change: *Vertical from top to bottom (for
 // horizontal controls), *Horizontal from left to right (for vertical ones).
 QtObject {
@@ -69,6 +70,30 @@ QtObject {
         GradientStop {
             position: 1.0
             color: VynUIQmlConstants.controlOffGradientColorForStyle(1, VynColorUtils.VynStyleLight, true)
+        }
+    }
+    readonly property Gradient colorIconShadeDark: Gradient {
+        GradientStop {
+            position: 0.0
+            color: VynUIQmlConstants.colorBySettingAlpha(
+                       VynUIQmlConstants.colorIconShadowColorForStyle(VynColorUtils.VynStyleDark), 0.05)
+        }
+        GradientStop {
+            position: 1.0
+            color: VynUIQmlConstants.colorBySettingAlpha(
+                       VynUIQmlConstants.colorIconShadowColorForStyle(VynColorUtils.VynStyleDark), 0.2)
+        }
+    }
+    readonly property Gradient colorIconShadeLight: Gradient {
+        GradientStop {
+            position: 0.0
+            color: VynUIQmlConstants.colorBySettingAlpha(
+                       VynUIQmlConstants.colorIconShadowColorForStyle(VynColorUtils.VynStyleLight), 0.05)
+        }
+        GradientStop {
+            position: 1.0
+            color: VynUIQmlConstants.colorBySettingAlpha(
+                       VynUIQmlConstants.colorIconShadowColorForStyle(VynColorUtils.VynStyleLight), 0.2)
         }
     }
 }
