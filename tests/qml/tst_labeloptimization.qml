@@ -187,9 +187,10 @@ TestCase {
         const item = createTemporaryObject(mouseComponent, testCase)
         const label = item.label
         compare(label.isHoverEnabled, true)
-        compare(label.labelTooltip.text, "Output gain")
-        compare(label.labelTooltip.visible, false)
+        compare(label.labelTooltip, null, "no tooltip before the first hover")
         mouseMove(label, 30, 15)
+        verify(label.labelTooltip)
+        compare(label.labelTooltip.text, "Output gain")
         tryCompare(label.labelTooltip, "visible", true)
         mouseMove(item, 190, 55)
         tryCompare(label.labelTooltip, "visible", false)

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import VynUI 1.2
 
@@ -8,38 +10,49 @@ import VynUI 1.2
 // mouseAccepted is true; otherwise they reach the items below it. The tooltip takes the
 // label's style unless tooltipStyle is set: it should follow the application's style,
 // which may differ from the label's.
+//
+// The tooltip is made the first time the mouse enters the label: `labelTooltip` is null
+// until then (a page of labels costs no popup until one is hovered).
 VynLabel {
     id: root
 
     property bool mouseAccepted: false
+    property string tooltipText: text
+    property int tooltipStyle: vynStyle
 
     property alias labelMouseArea: mouseArea
-    property alias labelTooltip: tooltip
-    property alias tooltipText: tooltip.text
-    property alias tooltipStyle: tooltip.vynStyle
+    readonly property VynToolTip labelTooltip: _tooltip
     property alias isHoverEnabled: mouseArea.hoverEnabled
+
+    property VynToolTip _tooltip: null
 
     MouseArea {
         id: mouseArea
 
         anchors.fill: parent
-        hoverEnabled: tooltip.text !== ""
+        hoverEnabled: root.tooltipText !== ""
         propagateComposedEvents: !root.mouseAccepted
         onPressed: mouse => mouse.accepted = root.mouseAccepted
         onReleased: mouse => mouse.accepted = root.mouseAccepted
         onClicked: mouse => mouse.accepted = root.mouseAccepted
         onDoubleClicked: mouse => mouse.accepted = root.mouseAccepted
+        onContainsMouseChanged: {
+            if (containsMouse && !root._tooltip)
+                root._tooltip = tooltipComponent.createObject(root) as VynToolTip
+        }
     }
 
-    VynToolTip {
-        id: tooltip
+    Component {
+        id: tooltipComponent
 
-        parent: root
-        vynStyle: root.vynStyle
-        vynPixelRatio: root.vynPixelRatio
-        vynPixelRatioFont: root.vynPixelRatioFont
-        font: root.font
-        text: root.text
-        visible: text !== "" && mouseArea.containsMouse
+        VynToolTip {
+            parent: root
+            vynStyle: root.tooltipStyle
+            vynPixelRatio: root.vynPixelRatio
+            vynPixelRatioFont: root.vynPixelRatioFont
+            font: root.font
+            text: root.tooltipText
+            visible: text !== "" && mouseArea.containsMouse
+        }
     }
 }
