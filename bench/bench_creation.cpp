@@ -186,9 +186,14 @@ int main(int argc, char** argv)
     QCommandLineOption filterOption({"f", "filter"}, "Only pairs whose name contains this.",
                                     "text");
     QCommandLineOption checkOption("check", "Exit 1 when a creation ratio exceeds this.", "ratio");
+    QCommandLineOption sideOption("push-side",
+                                  "Run only this side of the host push (vyn or qt), for a "
+                                  "profiler; no ratio is printed.",
+                                  "side");
     QCommandLineOption pairOption("pair", "Measure only this pair: 'vyn body|anchor body'.",
                                   "bodies");
-    parser.addOptions({countOption, roundsOption, filterOption, checkOption, pairOption});
+    parser.addOptions(
+        {countOption, roundsOption, filterOption, checkOption, pairOption, sideOption});
     parser.process(app);
     const int count = std::max(1, parser.value(countOption).toInt());
     const int rounds = std::max(1, parser.value(roundsOption).toInt());
@@ -229,6 +234,13 @@ int main(int argc, char** argv)
         (filter.isEmpty() || QStringLiteral("host push").contains(filter))) {
         constexpr int kControls = 300;
         constexpr int kWrites = 3000;
+        if (parser.isSet(sideOption)) {
+            const bool vyn = parser.value(sideOption) == QLatin1String("vyn");
+            std::printf("host push, %s side only: %.1f ms\n", vyn ? "module" : "Qt",
+                        bench.hostPush(vyn, kControls, kWrites));
+            module.onLeavingModule();
+            return 0;
+        }
         bench.hostPush(true, 10, 100);
         bench.hostPush(false, 10, 100);
         std::vector<double> vyn, anchor;

@@ -45,7 +45,8 @@ VynSlider12 {
     from: uiComponent ? uiComponent.minValue : 0
     to: uiComponent ? uiComponent.maxValue : 1
     defaultValue: uiComponent ? uiComponent.initValue : 0
-    values: uiComponent ? uiComponent.values : []
+    // Read only while mixed: a plain echo of the host then changes no list.
+    values: uiComponent && uiComponent.mixed ? uiComponent.values : []
     mixed: uiComponent ? uiComponent.mixed : false
     securityType: uiComponent ? uiComponent.securityType : VynCommonConstants.VynSecurityTypeNone
     enabled: uiComponent ? uiComponent.enabled : false
