@@ -150,7 +150,10 @@ Flickable {
                 orientation: Qt.Vertical
                 vynStyle: page.vynStyle
                 vynControlSize: VynViewUtils.VynControlSizeLarge
-                enableWheeling: true
+                // Wheel steps and double clicks reach the amplifier without a confirmation, so a
+                // gain that asks before committing takes only drags and track clicks.
+                enableWheeling: strip.model.securityType !== VynCommonConstants.VynSecurityTypeShouldAlert
+                enableDoubleClicking: strip.model.securityType !== VynCommonConstants.VynSecurityTypeShouldAlert
                 enableValueLimitation: true
                 enableValueAttenuation: true
                 stepSize: 0.5
@@ -326,7 +329,10 @@ Flickable {
                                 vynStyle: page.vynStyle
                                 stepSize: 6
                                 drawsTicks: true
-                                enableWheeling: true
+                                // As on the faders: a gain that asks takes no wheel steps or
+                                // double clicks, which would not ask.
+                                enableWheeling: trimRow.model.securityType !== VynCommonConstants.VynSecurityTypeShouldAlert
+                                enableDoubleClicking: trimRow.model.securityType !== VynCommonConstants.VynSecurityTypeShouldAlert
                                 uiSliderComponent: trimRow.model
                             }
                             VynLabel {
