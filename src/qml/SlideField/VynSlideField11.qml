@@ -207,7 +207,7 @@ VynTextField {
             console.log("VynSlideField11", p_event, p_message)
     }
 
-    // Offers a final value outside a pan (a step or a typed entry), restoring lastValue when it
+    // Offers a final value outside a pan (a minus or plus step), restoring lastValue when it
     // is refused.
     function _offerFinal(p_value, p_forceAbsolute) {
         if (p_value === value || isNaN(p_value))
