@@ -222,32 +222,75 @@ TestCase {
         compare(field.value, 10)
     }
 
+    function typeAndAccept(p_field, p_keys) {
+        wait(500) // no double click with the previous test's clicks
+        mouseClick(p_field, p_field.width / 2, p_field.height / 2)
+        tryVerify(() => p_field.activeFocus)
+        if (p_keys.length > 0) {
+            keySequence(StandardKey.SelectAll)
+            for (let i = 0; i < p_keys.length; ++i)
+                keyClick(p_keys[i])
+        }
+        keyClick(Qt.Key_Return)
+    }
+
+    // The default acceptAction sets the value from the text, clamped, without offering it and
+    // without asking, whatever the security type says.
     function test_typedEntry_data() {
+        const alert = VynCommonConstants.VynSecurityTypeShouldAlert
         return [
             { tag: "point", keys: "12.5", expected: 12.5 },
-            { tag: "clamped", keys: "5000", expected: 1000 }
+            { tag: "clamped", keys: "5000", expected: 1000 },
+            { tag: "should-alert, confirmations refused", keys: "42", expected: 42, security: alert, controller: true },
+            { tag: "should-alert, no window controller", keys: "42", expected: 42, security: alert, controller: false }
         ]
     }
     function test_typedEntry(data) {
-        const field = makeField({ "value": 10 })
-        wait(500) // no double click with the previous test's clicks
-        mouseClick(field, field.width / 2, field.height / 2)
-        tryVerify(() => field.activeFocus)
-        keySequence(StandardKey.SelectAll)
-        for (let i = 0; i < data.keys.length; ++i)
-            keyClick(data.keys[i])
-        keyClick(Qt.Key_Return)
+        const model = createTemporaryObject(modelComponent, testCase)
+        const field = makeField({ "value": 10, "uiSlideFieldComponent": model,
+                                  "securityType": data.security || VynCommonConstants.VynSecurityTypeNone })
+        if (data.controller)
+            verify(testHost.attachWindowController(field))
+        testHost.installAnsweringPresenter(QApplicationMessage.Response_Cancel)
+        typeAndAccept(field, data.keys)
         compare(field.value, data.expected)
         verify(!field.activeFocus)
         compare(field.text, String(data.expected))
-        const last = field.offers[field.offers.length - 1]
-        verify(last.isFinal)
+        compare(field.offers.length, 0)
+        compare(testHost.presentedCount, 0)
     }
 
-    function test_shouldAlert_data() {
+    // acceptAction receives the full text as it is, unchanged or not, never the elided one.
+    function test_acceptActionGetsTheFullText_data() {
         return [
-            { tag: "confirmed", response: QApplicationMessage.Response_Confirm, expected: 385 },
-            { tag: "refused", response: QApplicationMessage.Response_Cancel, expected: 10 }
+            { tag: "typed", value: 10, width: 240, keys: "25", received: "25" },
+            { tag: "unchanged", value: 10, width: 240, keys: "", received: "10" },
+            { tag: "retyped as shown", value: 10, width: 240, keys: "10", received: "10" },
+            { tag: "elided while idle", value: 123456789.25, width: 90, keys: "", received: "123456789.25", elided: true }
+        ]
+    }
+    function test_acceptActionGetsTheFullText(data) {
+        const field = makeField({ "value": data.value, "to": 1e12, "width": data.width,
+                                  "hasMinus": false, "hasPlus": false, "allowsPanning": false })
+        const received = []
+        field.acceptAction = function (p_text) {
+            received.push(p_text)
+        }
+        compare(field.text !== field.fullText, !!data.elided)
+        typeAndAccept(field, data.keys)
+        compare(received, [data.received])
+    }
+
+    // Every release of the handle that was not cancelled asks, a press that did not pan
+    // included; drag values are offered as not final and only a confirmed change as final.
+    function test_shouldAlert_data() {
+        const confirm = QApplicationMessage.Response_Confirm
+        const cancel = QApplicationMessage.Response_Cancel
+        return [
+            { tag: "pan confirmed", response: confirm, moves: [150], expected: 385, finals: 1, accepted: true },
+            { tag: "pan refused", response: cancel, moves: [150], expected: 10, finals: 0, accepted: false },
+            { tag: "press without pan confirmed", response: confirm, moves: [2], expected: 10, finals: 0, accepted: true },
+            { tag: "press without pan refused", response: cancel, moves: [2], expected: 10, finals: 0, accepted: false }
         ]
     }
     function test_shouldAlert(data) {
@@ -256,24 +299,58 @@ TestCase {
                                   "securityType": VynCommonConstants.VynSecurityTypeShouldAlert })
         verify(testHost.attachWindowController(field))
         testHost.installAnsweringPresenter(data.response)
-        pan(field, [150])
+        pan(field, data.moves)
         compare(testHost.presentedCount, 1)
         compare(field.value, data.expected)
-        // Drag values were offered as not final; only a confirmed change is offered as final.
-        compare(field.offers[0].isFinal, false)
-        const finals = field.offers.filter(o => o.isFinal)
-        compare(finals.length, data.expected === 385 ? 1 : 0)
+        verify(field.offers.slice(0, -1).every(o => !o.isFinal))
+        compare(field.offers.filter(o => o.isFinal).length, data.finals)
+        compare(field.gestureAccepted, data.accepted)
         compare(field.endedCount, 1)
     }
 
-    function test_shouldAlertWithoutWindowController() {
+    // Minus and plus are ignored only when disabled, refused by shouldBeginSliding() or long
+    // pressed: a should-alert field does not ask, and its step is offered as final.
+    function test_stepClicksOnShouldAlert_data() {
+        return [
+            { tag: "plus, confirmations refused", button: "plusButton", controller: true, expected: 11 },
+            { tag: "minus, confirmations refused", button: "minusButton", controller: true, expected: 9 },
+            { tag: "plus, no window controller", button: "plusButton", controller: false, expected: 11 }
+        ]
+    }
+    function test_stepClicksOnShouldAlert(data) {
+        const model = createTemporaryObject(modelComponent, testCase)
+        const field = makeField({ "value": 10, "uiSlideFieldComponent": model,
+                                  "securityType": VynCommonConstants.VynSecurityTypeShouldAlert })
+        if (data.controller)
+            verify(testHost.attachWindowController(field))
+        testHost.installAnsweringPresenter(QApplicationMessage.Response_Cancel)
+        const signalName = data.button === "plusButton" ? "plusClicked" : "minusClicked"
+        const clicked = createTemporaryObject(spyComponent, testCase, { "target": field, "signalName": signalName })
+        mouseClick(findChild(field, data.button))
+        compare(clicked.count, 1)
+        compare(testHost.presentedCount, 0)
+        compare(field.value, data.expected)
+        compare(field.offers.length, 1)
+        verify(field.offers[0].isFinal)
+        tryCompare(field, "endedCount", 1, 2000)
+    }
+
+    function test_shouldAlertWithoutWindowController_data() {
+        return [
+            { tag: "pan", moves: [150] },
+            { tag: "press without pan", moves: [2] }
+        ]
+    }
+    function test_shouldAlertWithoutWindowController(data) {
         const model = createTemporaryObject(modelComponent, testCase)
         const field = makeField({ "value": 10, "uiSlideFieldComponent": model,
                                   "securityType": VynCommonConstants.VynSecurityTypeShouldAlert })
         testHost.installAnsweringPresenter(QApplicationMessage.Response_Confirm)
         ignoreWarning("Error: cannot display alert. Security type is set should alert and the windowController or parentWindow reference is null.")
-        pan(field, [150])
+        pan(field, data.moves)
         compare(testHost.presentedCount, 0)
         compare(field.value, 10)
+        verify(!field.gestureAccepted)
+        compare(field.endedCount, 1)
     }
 }

@@ -199,6 +199,63 @@ TestCase {
         tryCompare(slider, "endedCount", 1, 2000)
     }
 
+    Component {
+        id: wheelHostComponent
+        // A page under the slider that takes the wheel events the slider leaves.
+        MouseArea {
+            id: wheelHost
+            x: 50
+            y: 50
+            width: 400
+            height: 100
+            property int wheels: 0
+            property alias slider: hostedSlider
+            onWheel: function (wheel) {
+                wheelHost.wheels += 1
+            }
+            VynSlider12 {
+                id: hostedSlider
+                x: 50
+                y: 20
+                width: 210
+                to: 10
+                stepSize: 1
+                enableWheeling: true
+                property var offers: []
+                property int beganCount: 0
+                sliderExpectsValue: function (p_newValue, p_forceAbsolute, p_prevValue, p_isFinal) {
+                    offers.push({ "value": p_newValue, "isFinal": p_isFinal })
+                    setValue(p_newValue)
+                    return true
+                }
+                sliderBeganSliding: function () { beganCount += 1 }
+            }
+        }
+    }
+
+    // Only the vertical delta turns into steps; a purely sideways turn is left to the page.
+    function test_wheelReadsTheVerticalDelta_data() {
+        return [
+            { tag: "sideways", dx: 120, dy: 0, expected: 5, offers: 0, toPage: 1 },
+            { tag: "sideways, backwards", dx: -240, dy: 0, expected: 5, offers: 0, toPage: 1 },
+            { tag: "diagonal: the vertical part", dx: 240, dy: 120, expected: 6, offers: 1, toPage: 0 },
+            { tag: "diagonal against the sideways part", dx: -360, dy: 120, expected: 6, offers: 1, toPage: 0 },
+            { tag: "vertical, two notches down", dx: 0, dy: -240, expected: 3, offers: 1, toPage: 0 }
+        ]
+    }
+    function test_wheelReadsTheVerticalDelta(data) {
+        const host = createTemporaryObject(wheelHostComponent, testCase)
+        verify(host)
+        const slider = host.slider
+        slider.setValue(5)
+        waitForRendering(slider)
+        mouseWheel(slider, 20, slider.height / 2, data.dx, data.dy)
+        compare(slider.value, data.expected)
+        compare(slider.offers.length, data.offers)
+        compare(slider.beganCount, data.offers)
+        compare(host.wheels, data.toPage)
+    }
+
     function test_wheelDisabledByDefault() {
         const slider = makeSlider({ "to": 10 })
         slider.setValue(5)
@@ -253,12 +310,22 @@ TestCase {
         testHost.detachWindowController()
     }
 
+    // Every release that was not cancelled asks, whatever the gesture changed; a refusal or a
+    // missing window controller ends the gesture unaccepted.
     function test_shouldAlert_data() {
+        const confirm = QApplicationMessage.Response_Confirm
+        const cancel = QApplicationMessage.Response_Cancel
         return [
-            { tag: "drag confirmed", response: QApplicationMessage.Response_Confirm, click: false, expected: 0.5 },
-            { tag: "drag refused", response: QApplicationMessage.Response_Cancel, click: false, expected: 0.25 },
-            { tag: "track click confirmed", response: QApplicationMessage.Response_Confirm, click: true, expected: 0.35 },
-            { tag: "track click refused", response: QApplicationMessage.Response_Cancel, click: true, expected: 0.25 }
+            { tag: "drag confirmed", response: confirm, gesture: "drag", expected: 0.5, finals: 1, accepted: true },
+            { tag: "drag refused", response: cancel, gesture: "drag", expected: 0.25, finals: 0, accepted: false },
+            { tag: "track click confirmed", response: confirm, gesture: "click", expected: 0.35, finals: 1, accepted: true },
+            { tag: "track click refused", response: cancel, gesture: "click", expected: 0.25, finals: 0, accepted: false },
+            { tag: "press on the thumb confirmed", response: confirm, gesture: "press", expected: 0.25, finals: 0, accepted: true },
+            { tag: "press on the thumb refused", response: cancel, gesture: "press", expected: 0.25, finals: 0, accepted: false },
+            { tag: "press, no window controller", response: confirm, gesture: "press", expected: 0.25, finals: 0,
+              accepted: false, noController: true },
+            { tag: "drag, no window controller", response: confirm, gesture: "drag", expected: 0.25, finals: 0,
+              accepted: false, noController: true }
         ]
     }
     function test_shouldAlert(data) {
@@ -266,27 +333,107 @@ TestCase {
         const slider = makeSlider({ "uiSliderComponent": model,
                                     "securityType": VynCommonConstants.VynSecurityTypeShouldAlert })
         slider.setValue(0.25)
-        verify(testHost.attachWindowController(slider))
+        if (!data.noController)
+            verify(testHost.attachWindowController(slider))
+        else
+            ignoreWarning("Error: cannot display alert. Security type is set should alert and the windowController or parentWindow reference is null.")
         testHost.installAnsweringPresenter(data.response)
-        if (data.click) {
-            mouseClick(slider, thumbCentre(slider).x + 60, slider.height / 2)
+        const c = thumbCentre(slider)
+        if (data.gesture === "click") {
+            mouseClick(slider, c.x + 60, slider.height / 2)
+        } else if (data.gesture === "press") {
+            mousePress(slider, c.x, c.y)
+            mouseRelease(slider, c.x, c.y)
         } else {
             drag(slider, 0.25 * slider._trackLength, 0)
             // Drag values were offered as not final.
             compare(slider.offers[0].isFinal, false)
         }
-        compare(testHost.presentedCount, 1)
+        compare(testHost.presentedCount, data.noController ? 0 : 1)
         fuzzyCompare(slider.value, data.expected, 1e-9)
-        const finals = slider.offers.filter(o => o.isFinal)
-        compare(finals.length, data.response === QApplicationMessage.Response_Confirm ? 1 : 0)
+        compare(slider.offers.filter(o => o.isFinal).length, data.finals)
+        compare(slider.gestureAccepted, data.accepted)
+        verify(!slider.pressed && !slider.dragging)
     }
 
-    function test_notLiveOffersOnceOnRelease() {
-        const slider = makeSlider({ "live": false })
-        drag(slider, 0.5 * slider._trackLength, 0)
-        compare(slider.offers.length, 1)
-        verify(slider.offers[0].isFinal)
-        fuzzyCompare(slider.value, 0.5, 1e-9)
+    // Wheel steps and double clicks have no release of their own to confirm: their values go
+    // straight to sliderExpectsValue as final, with or without a window controller. (A double
+    // click's two releases are confirmed like any release.)
+    function test_shouldAlertOffersWheelAndDoubleClickAsFinal_data() {
+        const confirm = QApplicationMessage.Response_Confirm
+        const cancel = QApplicationMessage.Response_Cancel
+        return [
+            { tag: "wheel, confirmations refused", input: "wheel", controller: true, response: cancel,
+              expected: 0.35, events: ["offer 0.35 final"] },
+            { tag: "wheel, no window controller", input: "wheel", controller: false, response: confirm,
+              expected: 0.35, events: ["offer 0.35 final"] },
+            { tag: "double click", input: "double click", controller: true, response: confirm,
+              expected: 0.5, events: ["asked", "offer 0.5 final", "asked"] }
+        ]
+    }
+    function test_shouldAlertOffersWheelAndDoubleClickAsFinal(data) {
+        const model = createTemporaryObject(modelComponent, testCase)
+        const slider = makeSlider({ "uiSliderComponent": model, "defaultValue": 0.5, "enableWheeling": true,
+                                    "securityType": VynCommonConstants.VynSecurityTypeShouldAlert })
+        slider.setValue(0.25)
+        wait(400) // no double click with the previous test's clicks
+        if (data.controller)
+            verify(testHost.attachWindowController(slider))
+        testHost.installAnsweringPresenter(data.response)
+        const events = []
+        const asked = function () { events.push("asked") }
+        testHost.presented.connect(asked)
+        slider.sliderExpectsValue = function (p_newValue, p_forceAbsolute, p_prevValue, p_isFinal) {
+            events.push("offer " + Math.round(p_newValue * 100) / 100 + (p_isFinal ? " final" : ""))
+            slider.setValue(p_newValue)
+            return true
+        }
+        if (data.input === "wheel") {
+            mouseWheel(slider, 5, slider.height / 2, 0, 120)
+        } else {
+            const c = thumbCentre(slider)
+            mouseDoubleClickSequence(slider, c.x, c.y)
+        }
+        testHost.presented.disconnect(asked)
+        compare(events, data.events)
+        fuzzyCompare(slider.value, data.expected, 1e-9)
+    }
+
+    // Only a live slider follows the pointer. A slider that is not live neither drags nor
+    // cancels a track press when the pointer moves; the press still ends on release.
+    function test_liveGatesMoves_data() {
+        return [
+            { tag: "live, thumb dragged", live: true, onThumb: true, dragged: true, expected: 0.75, offers: 4 },
+            { tag: "not live, thumb dragged", live: false, onThumb: true, dragged: false, expected: 0.5, offers: 0 },
+            { tag: "live, track press moved: no increment", live: true, onThumb: false, dragged: false,
+              expected: 0.5, offers: 0 },
+            { tag: "not live, track press moved: increments on release", live: false, onThumb: false, dragged: false,
+              expected: 0.6, offers: 1 }
+        ]
+    }
+    function test_liveGatesMoves(data) {
+        const slider = makeSlider({ "live": data.live })
+        slider.setValue(0.5)
+        const c = thumbCentre(slider)
+        const x = data.onThumb ? c.x : c.x + 60
+        // The track press moves 20 px, well past the threshold and still inside the slider.
+        const dx = data.onThumb ? 0.25 * slider._trackLength : 20
+        let sawDragging = false
+        mousePress(slider, x, c.y)
+        for (let i = 1; i <= 4; ++i) {
+            mouseMove(slider, x + dx * i / 4, c.y, -1, Qt.LeftButton)
+            sawDragging = sawDragging || slider.dragging
+        }
+        mouseRelease(slider, x + dx, c.y)
+        compare(sawDragging, data.dragged)
+        fuzzyCompare(slider.value, data.expected, 1e-9)
+        compare(slider.offers.length, data.offers)
+        verify(slider.offers.every(o => o.isFinal))
+        compare(slider.beganCount, 1)
+        if (data.onThumb)
+            compare(slider.endedCount, 1)
+        else
+            tryCompare(slider, "endedCount", 1, 2000)
     }
 
     function test_ticks() {

@@ -168,6 +168,86 @@ TestCase {
         compare(field.text, bound.model.stringValue)
     }
 
+    // The wrapper's own acceptAction: an unchanged or blank entry changes nothing, and a
+    // should-alert component asks before the entry reaches the host.
+    function test_fieldTypedEntryThroughTheModel_data() {
+        const none = VynCommonConstants.VynSecurityTypeNone
+        const alert = VynCommonConstants.VynSecurityTypeShouldAlert
+        return [
+            { tag: "typed", keys: "42", security: none, expected: 42, calls: 1, asked: 0 },
+            { tag: "unchanged", keys: "", security: none, expected: 10, calls: 0, asked: 0 },
+            { tag: "should-alert, confirmed", keys: "42", security: alert, response: QApplicationMessage.Response_Confirm,
+              expected: 42, calls: 1, asked: 1 },
+            { tag: "should-alert, refused", keys: "42", security: alert, response: QApplicationMessage.Response_Cancel,
+              expected: 10, calls: 0, asked: 1 }
+        ]
+    }
+    function test_fieldTypedEntryThroughTheModel(data) {
+        const bound = makeModel(fieldModelComponent, 0, 100, 10, 1)
+        bound.model.securityType = data.security
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model })
+        waitForRendering(field)
+        verify(testHost.attachWindowController(field))
+        testHost.installAnsweringPresenter(data.response !== undefined ? data.response
+                                                                 : QApplicationMessage.Response_Cancel)
+        wait(500) // no double click with the previous test's clicks
+        mouseClick(field, field.width / 2, field.height / 2)
+        tryVerify(() => field.activeFocus)
+        if (data.keys.length > 0) {
+            keySequence(StandardKey.SelectAll)
+            for (let i = 0; i < data.keys.length; ++i)
+                keyClick(data.keys[i])
+        }
+        keyClick(Qt.Key_Return)
+        compare(testHost.presentedCount, data.asked)
+        compare(bound.host.calls.length, data.calls)
+        verify(bound.host.calls.every(call => call.isFinal))
+        compare(bound.model.value, data.expected)
+        compare(field.value, data.expected)
+    }
+
+    // A mixed selection is edited from the press on the panning handle to its release, whether
+    // or not the press pans; sliding begins and ends inside that span, and only with a pan.
+    function test_fieldMixedPressAndRelease_data() {
+        return [
+            { tag: "press and release", move: 2,
+              afterMove: [], afterRelease: ["done"] },
+            { tag: "pan", move: 40,
+              afterMove: ["slidingBegan"], afterRelease: ["slidingBegan", "slidingEnded", "done"] }
+        ]
+    }
+    function test_fieldMixedPressAndRelease(data) {
+        const bound = makeModel(fieldModelComponent, 0, 1000, 10, 1)
+        const field = createTemporaryObject(uiFieldComponent, testCase,
+                                            { "uiSlideFieldComponent": bound.model })
+        waitForRendering(field)
+        testHost.watchEditing(bound.model)
+        testHost.pushValue(bound.model, 10, [10, 30])
+        verify(field.mixed)
+        const events = []
+        const began = function () { events.push("slidingBegan") }
+        const ended = function () { events.push("slidingEnded") }
+        const done = function () { events.push("done") }
+        bound.model.slidingBegan.connect(began)
+        bound.model.slidingEnded.connect(ended)
+        bound.model.doneEditingWhileMultiple.connect(done)
+        const handle = findChild(field, "panningHandle")
+        const c = handle.mapToItem(field, handle.width / 2, handle.height / 2)
+        mousePress(field, c.x, c.y)
+        compare(testHost.editedCount(), 1)
+        compare(testHost.lastAutoClose(), false)
+        compare(events, [])
+        mouseMove(field, c.x + data.move, c.y, -1, Qt.LeftButton)
+        compare(events, data.afterMove)
+        mouseRelease(field, c.x + data.move, c.y)
+        compare(events, data.afterRelease)
+        compare(testHost.editedCount(), 1)
+        bound.model.slidingBegan.disconnect(began)
+        bound.model.slidingEnded.disconnect(ended)
+        bound.model.doneEditingWhileMultiple.disconnect(done)
+    }
+
     function test_fieldHandleClickIsNoGesture() {
         const bound = makeModel(fieldModelComponent, 0, 1000, 10, 1)
         const field = createTemporaryObject(uiFieldComponent, testCase,

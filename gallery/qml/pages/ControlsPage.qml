@@ -11,7 +11,8 @@ import Gallery
 // to all channels at once (mixed while the channels differ). Every edit goes out through the
 // models' validators; the amplifier stores it with its own resolution and echoes it back
 // after its latency, which the orange lamp and the traffic list show. The gain of channel 1
-// asks before committing; the delay of the last channel is locked.
+// asks before committing (its sliders take drags and track clicks, which ask, and no wheel
+// steps or double clicks, which would not); the delay of the last channel is locked.
 Flickable {
     id: page
 
@@ -150,7 +151,10 @@ Flickable {
                 orientation: Qt.Vertical
                 vynStyle: page.vynStyle
                 vynControlSize: VynViewUtils.VynControlSizeLarge
-                enableWheeling: true
+                // Wheel steps and double clicks reach the amplifier without a confirmation, so a
+                // gain that asks before committing takes only drags and track clicks.
+                enableWheeling: strip.model.securityType !== VynCommonConstants.VynSecurityTypeShouldAlert
+                enableDoubleClicking: strip.model.securityType !== VynCommonConstants.VynSecurityTypeShouldAlert
                 enableValueLimitation: true
                 enableValueAttenuation: true
                 stepSize: 0.5
@@ -250,7 +254,7 @@ Flickable {
                 wrapMode: Text.WordWrap
                 font.pixelSize: VynUIQmlConstants.fontSize()
                 color: VynUIQmlConstants.labelColorForStyle(page.vynStyle, 1)
-                text: qsTr("Faders and slide fields bound to %1. Drag a fader or the \u25C2\u25B8 handle of a field, type a value, click \u2013 and +, or use the wheel (Ctrl: fine, Shift: coarse). The amplifier answers after %2 ms; the lamp is orange until its echo arrives. Channel 1's gain asks before committing; channel %3's delay is locked.")
+                text: qsTr("Faders and slide fields bound to %1. Drag a fader or the \u25C2\u25B8 handle of a field, type a value, click \u2013 and +, or use the wheel (Ctrl: fine, Shift: coarse). The amplifier answers after %2 ms; the lamp is orange until its echo arrives. Channel 1's gain asks before committing and ignores the wheel; channel %3's delay is locked.")
                       .arg(amplifier.name).arg(amplifier.latency).arg(amplifier.channelCount)
             }
         }
@@ -326,7 +330,10 @@ Flickable {
                                 vynStyle: page.vynStyle
                                 stepSize: 6
                                 drawsTicks: true
-                                enableWheeling: true
+                                // As on the faders: a gain that asks takes no wheel steps or
+                                // double clicks, which would not ask.
+                                enableWheeling: trimRow.model.securityType !== VynCommonConstants.VynSecurityTypeShouldAlert
+                                enableDoubleClicking: trimRow.model.securityType !== VynCommonConstants.VynSecurityTypeShouldAlert
                                 uiSliderComponent: trimRow.model
                             }
                             VynLabel {

@@ -5,7 +5,6 @@ import QtQuick.Controls.Basic as Basic
 import VynUI 1.2
 
 import "../Script/ComponentUtils.js" as ComponentUtils
-import "../Script/StringUtils.js" as StringUtils
 
 // The slide field: a numeric text field with an optional panning handle on its left, a unit
 // label or unit chooser on its right, and optional minus and plus buttons after it.
@@ -19,7 +18,8 @@ import "../Script/StringUtils.js" as StringUtils
 //   slideFieldExpectsValue(v, forceAbsolute, prevValue, isFinal)
 //                                            offer a value, answer accepted default setValue(v), true
 //   slideFieldEndedSliding()                 the gesture (or burst) ended   default nothing
-// and the actions minusAction(), plusAction() and acceptAction(p_text).
+// and the actions minusAction(), plusAction() and acceptAction(p_text) (by default setValue of
+// the number in the full text; a wrapper replaces it to offer the entry to its model).
 //
 // Panning. Pressing the handle and moving more than sliderTrackingThreshold() (3) pixels
 // horizontally starts a pan. The value is the pan's start value (truncated to a whole
@@ -33,12 +33,14 @@ import "../Script/StringUtils.js" as StringUtils
 // distance from the press and sigma sliderYAttenuationFactor(), for fine control.
 //
 // Security. With VynSecurityTypeDisable presses, clicks and releases are ignored. With
-// VynSecurityTypeShouldAlert intermediate values are offered as not final and the change is
-// confirmed on release through the host's message service (VynUIQmlConstants.
-// presentConfirmMessage over the control's window, with the bound component's alert texts);
-// refused, the value goes back to `startValue`. A typed entry and a minus or plus click on a
-// should-alert field are confirmed the same way before they are offered. A release that
-// changed nothing asks nothing.
+// VynSecurityTypeShouldAlert intermediate values are offered as not final and every release
+// of the handle that was not cancelled asks for a confirmation through the host's message
+// service (VynUIQmlConstants.presentConfirmMessage over the control's window, with the bound
+// component's alert texts), a press that did not pan included; refused, or when the user
+// cannot be asked, the gesture ends unaccepted and the value goes back to `startValue`. Minus
+// and plus clicks are not confirmed: a click is ignored only when disabled, when
+// shouldBeginSliding() refuses or during a long press, and its value is offered as final
+// through slideFieldExpectsValue, where the host decides.
 //
 // Ending. A pan ends with slideFieldEndedSliding() at once. Clicks on minus and plus (and
 // long presses) end through a 600 ms debounce: a burst of clicks makes one end call, 600 ms
@@ -94,14 +96,10 @@ VynTextField {
     defaultText: textFieldValue && textFieldValue.text !== undefined && textFieldValue.text.length > 0
                  ? textFieldValue.text
                  : (mixed ? VynUIQmlConstants.localizedString("MULTIPLE_SHORT") : stringValue)
-    // An entry equal to the shown text or blank changes nothing; a protected field asks first.
+    // The full text of an accepted entry goes to acceptAction as it is.
     // (Set imperatively: a binding named on... would read as a signal handler.)
     function _acceptEntry(p_fullText, p_byKey) {
-        if (p_fullText === root.defaultText || StringUtils.isNullOrWhiteSpace(p_fullText))
-            return
-        root._confirmThen(function () {
-            root.acceptAction.call(root, p_fullText)
-        }, function () {})
+        root.acceptAction.call(root, p_fullText)
     }
     Component.onCompleted: {
         onAcceptedCallback = _acceptEntry
@@ -162,11 +160,11 @@ VynTextField {
     property var plusAction: function () {
         root._offerStep(root.isReverse ? -root.stepSize : root.stepSize)
     }
+    // Sets the value read from the text; a text without a number leaves it alone.
     property var acceptAction: function (p_text) {
         const typed = parseFloat(String(p_text).trim())
-        if (isNaN(typed))
-            return
-        root._offerFinal(root._clamped(typed), true)
+        if (!isNaN(typed))
+            root.setValue(typed)
     }
 
     readonly property int _slideFieldEndedTimerDelay: 600
@@ -209,7 +207,7 @@ VynTextField {
             console.log("VynSlideField11", p_event, p_message)
     }
 
-    // Offers a final value outside a pan (a step or a typed entry), restoring lastValue when it
+    // Offers a final value outside a pan (a minus or plus step), restoring lastValue when it
     // is refused.
     function _offerFinal(p_value, p_forceAbsolute) {
         if (p_value === value || isNaN(p_value))
@@ -334,12 +332,7 @@ VynTextField {
             _endGesture(false, p_cancelled)
             return
         }
-        const changed = panning && virtualValue !== startValue
-        if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert && changed) {
-            if (p_cancelled) {
-                _endGesture(false, true)
-                return
-            }
+        if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert && !p_cancelled) {
             _confirmThen(function () {
                 root._endGesture(true, false)
             }, function () {
@@ -379,21 +372,18 @@ VynTextField {
         if (securityType === VynCommonConstants.VynSecurityTypeDisable || isLongPressed
                 || !shouldBeginSliding.call(root))
             return
-        const run = function () {
-            root.incrementing = true
-            root.focus = false
-            p_button.forceActiveFocus()
-            root.startValue = root.value
-            root.slideFieldBeganSliding.call(root)
-            if (p_plus)
-                root.plusClicked()
-            else
-                root.minusClicked()
-            root.incrementing = false
-            root.gestureAccepted = true
-            root._endSlidingDebounced()
-        }
-        _confirmThen(run, function () {})
+        incrementing = true
+        focus = false
+        p_button.forceActiveFocus()
+        startValue = value
+        slideFieldBeganSliding.call(root)
+        if (p_plus)
+            plusClicked()
+        else
+            minusClicked()
+        incrementing = false
+        gestureAccepted = true
+        _endSlidingDebounced()
     }
 
     onMinusClicked: minusAction.call(root)

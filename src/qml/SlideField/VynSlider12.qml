@@ -27,22 +27,25 @@ import "../Script/ComponentUtils.js" as ComponentUtils
 //
 // Gestures. Pressing the thumb and moving more than sliderTrackingThreshold() (3) pixels
 // along the axis drags it linearly, with the same speed limitation and attenuation across the
-// axis as the slide field. Pressing the track outside the thumb (`enableIncrementOutsideThumb`)
-// increments on release: one step towards the click (stepSize, or a tenth of the range
-// without a step). A double click on the thumb offers `defaultValue`. The wheel
-// (`enableWheeling`) moves one step per notch; with value limitation faster than
-// sliderMaxAnglePerSecond() (150 degrees per second) the extra notches are dropped. Control
-// divides an increment by 5 (not a single notch of a stepped slider: one step stays one
-// step), Shift multiplies it by 5. Press and hold reports `longPressed` and cancels the gesture.
+// axis as the slide field; only a `live` slider follows the pointer (without `live` moves are
+// ignored, and a press on the thumb just ends on release). Pressing the track outside the
+// thumb (`enableIncrementOutsideThumb`) increments on release: one step towards the click
+// (stepSize, or a tenth of the range without a step). A double click on the thumb offers
+// `defaultValue` as final. The wheel (`enableWheeling`) moves one step per vertical notch
+// (the angle delta's y; a sideways wheel does not move the slider and is left to the items
+// below); with value limitation faster than sliderMaxAnglePerSecond() (150 degrees per
+// second) the extra notches are dropped. Control divides an increment by 5 (not a single
+// notch of a stepped slider: one step stays one step), Shift multiplies it by 5. Press and
+// hold reports `longPressed` and cancels the gesture.
 //
 // Security. As for the slide field: disable ignores presses, clicks, wheel and releases;
-// should-alert offers drag values as not final and confirms the change on release (and each
-// click, wheel step or double click) through the host's message service with the bound
-// component's alert texts, restoring `startValue` when refused or when the user cannot be
-// asked. A drag ends with sliderEndedSliding() at once; clicks and wheel steps through a
-// 600 ms debounce, one call per burst.
-//
-// Without `live` a drag moves the thumb and offers the value once, as final, on release.
+// should-alert offers drag values as not final and asks for a confirmation on every release
+// that was not cancelled (a drag, a track click or a plain press alike) through the host's
+// message service with the bound component's alert texts; refused, or when the user cannot
+// be asked, the gesture ends unaccepted and the value goes back to `startValue`. Double
+// clicks and wheel steps are not gestures with a release: their values are offered as final
+// through sliderExpectsValue, where the host decides. A drag ends with sliderEndedSliding()
+// at once; clicks and wheel steps through a 600 ms debounce, one call per burst.
 VynItem {
     id: root
 
@@ -404,6 +407,8 @@ VynItem {
     }
 
     function _move(p_x, p_y) {
+        if (!live)
+            return
         const a = _axis(p_x, p_y)
         if (!dragging) {
             if (Math.abs(a - _startPoint.x) <= VynUIQmlConstants.sliderTrackingThreshold())
@@ -437,15 +442,11 @@ VynItem {
         if (isNaN(newValue))
             return
         if (newValue !== virtualValue) {
-            if (live) {
-                const previousLastValue = lastValue
-                setLastValue.call(root, value)
-                const isFinal = securityType === VynCommonConstants.VynSecurityTypeNone
-                if (!sliderExpectsValue.call(root, newValue, false, lastValue, isFinal))
-                    setLastValue.call(root, previousLastValue)
-            } else {
-                displayedValue = newValue
-            }
+            const previousLastValue = lastValue
+            setLastValue.call(root, value)
+            const isFinal = securityType === VynCommonConstants.VynSecurityTypeNone
+            if (!sliderExpectsValue.call(root, newValue, false, lastValue, isFinal))
+                setLastValue.call(root, previousLastValue)
         }
         virtualValue = newValue
         if (newValue !== from && newValue !== to) {
@@ -462,9 +463,7 @@ VynItem {
             _endGesture(false, p_cancelled, null)
             return
         }
-        const changes = (dragging && virtualValue !== startValue)
-                      || (incrementing && p_click && p_click.inside)
-        if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert && changes && !p_cancelled) {
+        if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert && !p_cancelled) {
             _confirmThen(function () {
                 root._endGesture(true, false, p_click)
             }, function () {
@@ -477,7 +476,7 @@ VynItem {
 
     function _endGesture(p_accepted, p_cancelled, p_click) {
         if (dragging) {
-            if ((!live || securityType === VynCommonConstants.VynSecurityTypeShouldAlert)
+            if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert
                     && p_accepted && !p_cancelled && virtualValue !== startValue) {
                 setLastValue.call(root, startValue)
                 if (!sliderExpectsValue.call(root, virtualValue, false, lastValue, true))
@@ -512,20 +511,15 @@ VynItem {
         if (!enableDoubleClicking || dragging || !_onThumb(p_x, p_y)
                 || securityType === VynCommonConstants.VynSecurityTypeDisable)
             return
-        if (defaultValue === value)
-            return
-        _confirmThen(function () {
-            root._offerFinal(root.defaultValue)
-        }, function () {})
+        _offerFinal(defaultValue)
     }
 
+    // p_angleDelta: the wheel's vertical angle delta; a sideways turn has none and is not taken.
     function _wheel(p_angleDelta, p_modifiers) {
-        if (!enableWheeling || securityType === VynCommonConstants.VynSecurityTypeDisable
+        const steps = p_angleDelta / 120
+        if (!enableWheeling || steps === 0 || securityType === VynCommonConstants.VynSecurityTypeDisable
                 || !shouldBeginSliding.call(root))
             return false
-        const steps = p_angleDelta / 120
-        if (steps === 0)
-            return true
         const now = Date.now()
         if (enableValueLimitation && _wheelLastTime > 0) {
             const limit = VynUIQmlConstants.sliderMaxAnglePerSecond() * (now - _wheelLastTime) / 1000
@@ -535,10 +529,7 @@ VynItem {
         incrementing = true
         startValue = value
         sliderBeganSliding.call(root)
-        const run = function () {
-            root.increment(steps, p_modifiers)
-        }
-        _confirmThen(run, function () {})
+        increment(steps, p_modifiers)
         if (value !== from && value !== to)
             _wheelLastTime = now
         incrementing = false
@@ -590,8 +581,7 @@ VynItem {
             root.longPressed(mouse)
         }
         onWheel: function (wheel) {
-            const delta = wheel.angleDelta.y !== 0 ? wheel.angleDelta.y : wheel.angleDelta.x
-            wheel.accepted = root._wheel(delta, wheel.modifiers)
+            wheel.accepted = root._wheel(wheel.angleDelta.y, wheel.modifiers)
         }
     }
 }

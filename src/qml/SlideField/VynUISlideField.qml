@@ -1,6 +1,8 @@
 import QtQuick
 import VynUI 1.2
 
+import "../Script/StringUtils.js" as StringUtils
+
 // A slide field bound to a device parameter through a VynUISlideFieldComponent; built by a
 // host exactly like VynUISlider (component, two validators, and
 // `VynUISlideField { uiSlideFieldComponent: host.delayComponent }`), plus a unit validator
@@ -10,7 +12,11 @@ import VynUI 1.2
 // units) and shows it through the component's transformer in the current unit, without the
 // unit, which the unit label or chooser shows (the chooser appears when the component allows
 // unit choosing and asks the component to change units). A typed number is read in the
-// current unit and converted back to raw. "Mult." stands for a mixed selection. The other
+// current unit and converted back to raw: an entry equal to the shown text or blank changes
+// nothing, and on a should-alert component the entry is confirmed first (refused, or without
+// a window controller to ask through, it is dropped). "Mult." stands for a mixed selection:
+// pressing the panning handle of a mixed selection emits editedWhileMultiple(false) at once,
+// and its release doneEditingWhileMultiple(), whether or not the press panned. The other
 // binding rules are VynUISlider's.
 VynSlideField11 {
     id: root
@@ -51,12 +57,21 @@ VynSlideField11 {
     shouldBeginSliding: function () {
         return root.uiComponent !== null && root.uiComponent.shouldBeginSliding()
     }
-    slideFieldBeganSliding: function () {
+    // A press on the handle (the control allows it to pan from then on) edits the selection.
+    onCanStartPanningChanged: {
+        if (canStartPanning)
+            root._beginEditingWhileMultiple()
+    }
+    function _beginEditingWhileMultiple() {
         const c = root.uiComponent
-        if (c.mixed) {
+        if (c && c.mixed && !root._editedWhileMultiple) {
             root._editedWhileMultiple = true
             c.editedWhileMultiple(false)
         }
+    }
+    slideFieldBeganSliding: function () {
+        const c = root.uiComponent
+        root._beginEditingWhileMultiple()
         c.slidingBegan()
         root._slidingBegun = true
         c.sliding = root.panning
@@ -69,29 +84,37 @@ VynSlideField11 {
     }
     slideFieldEndedSliding: function () {
         const c = root.uiComponent
-        if (!root._slidingBegun)
-            return
-        root._slidingBegun = false
-        if (!root.gestureAccepted && c.value !== root.startValue) {
-            if (root.securityType === VynCommonConstants.VynSecurityTypeNone)
-                c.expectsValue(root.startValue, false, c.prevValue, true)
-            else
-                c.value = root.startValue
+        if (root._slidingBegun) {
+            root._slidingBegun = false
+            if (!root.gestureAccepted && c.value !== root.startValue) {
+                if (root.securityType === VynCommonConstants.VynSecurityTypeNone)
+                    c.expectsValue(root.startValue, false, c.prevValue, true)
+                else
+                    c.value = root.startValue
+            }
+            c.slidingEnded()
+            c.prevValue = c.value
+            c.sliding = false
         }
-        c.slidingEnded()
-        c.prevValue = c.value
-        c.sliding = false
         if (root._editedWhileMultiple) {
             root._editedWhileMultiple = false
             c.doneEditingWhileMultiple()
         }
     }
     acceptAction: function (p_text) {
+        if (p_text === root.defaultText || StringUtils.isNullOrWhiteSpace(p_text))
+            return
         const typed = parseFloat(String(p_text).trim())
         const c = root.uiComponent
         if (isNaN(typed) || !c)
             return
-        const raw = c.transformer ? c.transformer.displayedToRaw(typed) : typed
+        root._confirmThen(function () {
+            root._offerTyped(typed)
+        }, function () {})
+    }
+    function _offerTyped(p_typed) {
+        const c = root.uiComponent
+        const raw = c.transformer ? c.transformer.displayedToRaw(p_typed) : p_typed
         const previousLastValue = root.lastValue
         root.setLastValue.call(root, root.value)
         c.slidingBegan()
