@@ -4,7 +4,7 @@ import QtQuick
 import VynUI 1.2
 
 import "../Script/ArrayUtils.js" as ArrayUtils
-import "../Script/ComponentUtils.js" as ComponentUtils
+import "../Private/SliderGestures.js" as SliderGestures
 
 // The slider: a track with a thumb, horizontal or vertical.
 //
@@ -88,7 +88,8 @@ VynItem {
 
     signal longPressed(var p_mouse)
 
-    readonly property int _sliderEndedTimerDelay: 600
+    // Made on the first click or wheel step, for the burst's debounce.
+    property Timer _endedTimer: null
 
     // --- Validator functions ---
     property var shouldBeginSliding: function () {
@@ -117,7 +118,11 @@ VynItem {
     // Sets the value, clamped to [from, to] when truncating. With a positive stepSize and
     // rounding, virtualValue takes the unrounded value and value the nearest multiple of
     // stepSize (the grid of multiples of stepSize, whatever `from` is; ties go up in
-    // magnitude, the sign is kept, see _roundedToStep()).
+    // magnitude, the sign is kept (a small negative value gives -0); quotient and product
+    // are read to 15 significant digits, so that float noise neither breaks a tie (0.6 / 0.2)
+    // nor leaves a trail (0.4 x 3 is 1.2, not 1.2000000000000002). When truncating, a
+    // multiple outside [from, to] steps back one step towards the range, and a range without
+    // any multiple inside gives the clamped value).
     function setValue(p_value, p_truncate = true, p_roundToStep = true) {
         if (isNaN(p_value)) {
             console.warn("VynSlider12: refused a value that is not a number")
@@ -126,39 +131,10 @@ VynItem {
         let v = p_truncate ? _clamped(p_value) : p_value
         if (stepSize > 0 && p_roundToStep) {
             virtualValue = v
-            v = _roundedToStep(v, p_truncate)
+            v = SliderGestures.roundedToStep(root, v, p_truncate)
         }
         value = v
         displayedValue = value
-    }
-
-    // The multiple of stepSize nearest to p_value: ties go up in magnitude and the sign is
-    // kept (a small negative value gives -0). Quotient and product are read to 15
-    // significant digits, so that float noise neither breaks a tie (0.6 / 0.2) nor leaves a
-    // trail (0.4 x 3 is 1.2, not 1.2000000000000002). With p_keepInRange, a multiple outside
-    // [from, to] steps back one step towards the range; a range without any multiple inside
-    // gives the clamped value instead. A value that is not finite is returned as it is.
-    function _roundedToStep(p_value, p_keepInRange) {
-        if (!isFinite(p_value) || !(stepSize > 0) || !isFinite(stepSize))
-            return p_value
-        const clean = function (p_x) {
-            return parseFloat(p_x.toPrecision(15))
-        }
-        const sign = p_value < 0 ? -1 : 1
-        let count = sign * Math.floor(clean(Math.abs(p_value) / stepSize) + 0.5)
-        const multiple = function (p_count) {
-            return p_count === 0 ? sign * 0 : clean(p_count * stepSize)
-        }
-        if (!p_keepInRange)
-            return multiple(count)
-        const low = Math.min(from, to)
-        const high = Math.max(from, to)
-        if (multiple(count) > high)
-            --count
-        else if (multiple(count) < low)
-            ++count
-        const v = multiple(count)
-        return v >= low && v <= high ? v : _clamped(p_value)
     }
 
     // Moves the value by p_count increments (stepSize, or a tenth of the range), with the
@@ -166,13 +142,13 @@ VynItem {
     function increment(p_count, p_modifiers = Qt.NoModifier) {
         let count = p_count
         if ((p_modifiers & Qt.ControlModifier) && (stepSize <= 0 || Math.abs(p_count) > 1))
-            count /= VynUIQmlConstants.sliderWheelMinimizeFactor()
+            count /= vynMetrics.sliderWheelMinimizeFactor
         if (p_modifiers & Qt.ShiftModifier)
-            count *= VynUIQmlConstants.sliderWheelMaximizeFactor()
+            count *= vynMetrics.sliderWheelMaximizeFactor
         let delta = stepSize > 0 ? count * stepSize : count * valueRange / 10
         if (mirror !== reverse)
             delta = -delta
-        _offerFinal(_clamped(value + delta))
+        SliderGestures.offerFinal(root, _clamped(value + delta))
     }
 
     // The position of a value along the axis (in axis coordinates, see above).
@@ -190,53 +166,6 @@ VynItem {
         return Math.max(Math.min(from, to), Math.min(Math.max(from, to), p_value))
     }
 
-    function _log(p_event, p_message) {
-        if (enableLogs)
-            console.log("VynSlider12", p_event, p_message)
-    }
-
-    function _offerFinal(p_value) {
-        if (p_value === value || isNaN(p_value))
-            return p_value === value
-        const previousLastValue = lastValue
-        setLastValue.call(root, value)
-        const accepted = sliderExpectsValue.call(root, p_value, false, lastValue, true)
-        if (!accepted)
-            setLastValue.call(root, previousLastValue)
-        _log("offer", p_value + (accepted ? " accepted" : " refused"))
-        return accepted
-    }
-
-    function _confirmThen(p_action, p_refused) {
-        if (securityType !== VynCommonConstants.VynSecurityTypeShouldAlert) {
-            p_action()
-            return
-        }
-        const controller = VynUIQmlConstants.windowControllerForQmlObject(root)
-        const window = VynUIQmlConstants.windowForQmlObject(root)
-        if (!uiSliderComponent || !controller || !window) {
-            console.warn("Error: cannot display alert. Security type is set should alert and the windowController or parentWindow reference is null.")
-            p_refused()
-            return
-        }
-        VynUIQmlConstants.presentConfirmMessage(uiSliderComponent.securityAlertTitle,
-                                                uiSliderComponent.securityAlertMessage, 0,
-                                                QApplicationMessage.Level_Warn,
-                                                QApplicationMessage.Type_Popup, [], controller,
-                                                window, function (p_response) {
-                                                    if (p_response === QApplicationMessage.Response_Confirm)
-                                                        p_action()
-                                                    else
-                                                        p_refused()
-                                                })
-    }
-
-    function _endSlidingDebounced() {
-        ComponentUtils.delayFunction(endedTimer, _sliderEndedTimerDelay, function () {
-            root.sliderEndedSliding.call(root)
-        }, true)
-    }
-
     // --- Geometry (axis coordinates) ---
     readonly property real _axisLength: vertical ? height : width
     readonly property real _crossLength: vertical ? width : height
@@ -249,15 +178,6 @@ VynItem {
     readonly property real _thumbPosition: _valueKnown ? positionForValue(displayedValue) : _trackStart
     readonly property real _zeroPosition: positionForValue(from <= 0 && to >= 0 ? 0 : from)
 
-    // Axis coordinate of a point of the control, and the coordinate across the axis.
-    function _axis(p_x: real, p_y: real): real {
-        if (vertical)
-            return mirror ? p_y : height - p_y
-        return mirror ? width - p_x : p_x
-    }
-    function _cross(p_x: real, p_y: real): real {
-        return vertical ? p_x : p_y
-    }
     // Item coordinates of an axis position (the centre of the cross axis).
     function _itemX(p_axis: real): real {
         if (vertical)
@@ -269,10 +189,6 @@ VynItem {
             return height / 2
         return mirror ? p_axis : height - p_axis
     }
-    function _onThumb(p_x, p_y) {
-        const half = Math.max(_thumbLength, vynMetrics.sliderTouchAreaOffset) / 2
-        return Math.abs(_axis(p_x, p_y) - _thumbPosition) <= half
-    }
 
     implicitWidth: vertical ? _thumbCross : 10 * _thumbCross
     implicitHeight: vertical ? 10 * _thumbCross : _thumbCross
@@ -281,10 +197,6 @@ VynItem {
     onValueChanged: displayedValue = value
     onValuesChanged: updateValueForMixedState.call(root)
     onMixedChanged: updateValueForMixedState.call(root)
-
-    Timer {
-        id: endedTimer
-    }
 
     // --- Drawing ---
     readonly property real _trackThickness: vynMetrics.sliderTrackHeight
@@ -385,159 +297,6 @@ VynItem {
     property real _wheelLastTime: 0
     property bool _gestureOpen: false
 
-    function _press(p_x, p_y) {
-        if (securityType === VynCommonConstants.VynSecurityTypeDisable || !shouldBeginSliding.call(root))
-            return false
-        _startPoint = Qt.point(_axis(p_x, p_y), _cross(p_x, p_y))
-        virtualValue = value
-        startValue = value
-        setLastValue.call(root, value)
-        _lastStepTime = 0
-        if (_onThumb(p_x, p_y)) {
-            pressed = true
-            canStartDragging = true
-            sliderBeganSliding.call(root)
-        } else if (enableIncrementOutsideThumb) {
-            incrementing = true
-            sliderBeganSliding.call(root)
-        } else {
-            return false
-        }
-        return true
-    }
-
-    function _move(p_x, p_y) {
-        if (!live)
-            return
-        const a = _axis(p_x, p_y)
-        if (!dragging) {
-            if (Math.abs(a - _startPoint.x) <= VynUIQmlConstants.sliderTrackingThreshold())
-                return
-            if (canStartDragging) {
-                dragging = true
-                _lastPoint = _startPoint
-                _log("drag", "began at " + value)
-            }
-            incrementing = false
-        }
-        if (dragging)
-            _dragStep(a, _cross(p_x, p_y))
-    }
-
-    function _dragStep(p_axis, p_cross) {
-        let delta = p_axis - _lastPoint.x
-        const now = Date.now()
-        if (enableValueLimitation && _lastStepTime > 0) {
-            const limit = VynUIQmlConstants.sliderMaxDistancePerSecond() * (now - _lastStepTime) / 1000
-            if (Math.abs(delta) > limit)
-                delta = Math.max(-limit, Math.min(limit, delta)) / 2
-        }
-        if (enableValueAttenuation) {
-            const y = p_cross - _startPoint.y
-            const sigma = VynUIQmlConstants.sliderYAttenuationFactor()
-            delta *= Math.exp(-(y * y) / (2 * sigma * sigma))
-        }
-        let newValue = virtualValue + (reverse ? -1 : 1) * delta / _trackLength * valueRange
-        newValue = _clamped(newValue)
-        if (isNaN(newValue))
-            return
-        if (newValue !== virtualValue) {
-            const previousLastValue = lastValue
-            setLastValue.call(root, value)
-            const isFinal = securityType === VynCommonConstants.VynSecurityTypeNone
-            if (!sliderExpectsValue.call(root, newValue, false, lastValue, isFinal))
-                setLastValue.call(root, previousLastValue)
-        }
-        virtualValue = newValue
-        if (newValue !== from && newValue !== to) {
-            _lastPoint = Qt.point(p_axis, p_cross)
-            _lastStepTime = now
-        }
-    }
-
-    // p_click: {x, y, modifiers, inside} of the release, or null for a cancel.
-    function _release(p_cancelled, p_click) {
-        if (securityType === VynCommonConstants.VynSecurityTypeDisable)
-            return
-        if (isLongPressed) {
-            _endGesture(false, p_cancelled, null)
-            return
-        }
-        if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert && !p_cancelled) {
-            _confirmThen(function () {
-                root._endGesture(true, false, p_click)
-            }, function () {
-                root._endGesture(false, false, p_click)
-            })
-            return
-        }
-        _endGesture(true, p_cancelled, p_click)
-    }
-
-    function _endGesture(p_accepted, p_cancelled, p_click) {
-        if (dragging) {
-            if (securityType === VynCommonConstants.VynSecurityTypeShouldAlert
-                    && p_accepted && !p_cancelled && virtualValue !== startValue) {
-                setLastValue.call(root, startValue)
-                if (!sliderExpectsValue.call(root, virtualValue, false, lastValue, true))
-                    setValue(startValue)
-            }
-            dragging = false
-        } else if (incrementing && p_accepted && !p_cancelled && p_click && p_click.inside) {
-            const thumbCentre = root.vertical ? thumb.centreY : thumb.centreX
-            const clickPosition = root.vertical ? p_click.y : p_click.x
-            // Before the thumb's centre on screen: left, or below on a vertical slider.
-            const before = root.vertical ? clickPosition >= thumbCentre : clickPosition <= thumbCentre
-            increment(before ? -1 : 1, p_click.modifiers)
-        }
-        if (!p_accepted || p_cancelled) {
-            setValue(startValue, true, false)
-            virtualValue = startValue
-        }
-        gestureAccepted = p_accepted && !p_cancelled
-        pressed = false
-        canStartDragging = false
-        if (!incrementing && !isLongPressed) {
-            sliderEndedSliding.call(root)
-        } else {
-            incrementing = false
-            isLongPressed = false
-            _endSlidingDebounced()
-        }
-        _log("gesture", "ended " + (gestureAccepted ? "accepted" : "refused"))
-    }
-
-    function _doubleClick(p_x, p_y) {
-        if (!enableDoubleClicking || dragging || !_onThumb(p_x, p_y)
-                || securityType === VynCommonConstants.VynSecurityTypeDisable)
-            return
-        _offerFinal(defaultValue)
-    }
-
-    // p_angleDelta: the wheel's vertical angle delta; a sideways turn has none and is not taken.
-    function _wheel(p_angleDelta, p_modifiers) {
-        const steps = p_angleDelta / 120
-        if (!enableWheeling || steps === 0 || securityType === VynCommonConstants.VynSecurityTypeDisable
-                || !shouldBeginSliding.call(root))
-            return false
-        const now = Date.now()
-        if (enableValueLimitation && _wheelLastTime > 0) {
-            const limit = VynUIQmlConstants.sliderMaxAnglePerSecond() * (now - _wheelLastTime) / 1000
-            if (Math.abs(p_angleDelta / 8) > limit)
-                return true
-        }
-        incrementing = true
-        startValue = value
-        sliderBeganSliding.call(root)
-        increment(steps, p_modifiers)
-        if (value !== from && value !== to)
-            _wheelLastTime = now
-        incrementing = false
-        gestureAccepted = true
-        _endSlidingDebounced()
-        return true
-    }
-
     MouseArea {
         id: mouseArea
         objectName: "sliderArea"
@@ -546,18 +305,18 @@ VynItem {
         preventStealing: true
         hoverEnabled: true
         onPressed: function (mouse) {
-            root._gestureOpen = root._press(mouse.x, mouse.y)
+            root._gestureOpen = SliderGestures.press(root, mouse.x, mouse.y)
         }
         onPositionChanged: function (mouse) {
             if (!root._gestureOpen || !(mouse.buttons & Qt.LeftButton))
                 return
-            root._move(mouse.x, mouse.y)
+            SliderGestures.move(root, mouse.x, mouse.y)
         }
         onReleased: function (mouse) {
             if (!root._gestureOpen)
                 return
             root._gestureOpen = false
-            root._release(false, {
+            SliderGestures.release(root, false, {
                               "x": mouse.x,
                               "y": mouse.y,
                               "modifiers": mouse.modifiers,
@@ -568,10 +327,10 @@ VynItem {
             if (!root._gestureOpen)
                 return
             root._gestureOpen = false
-            root._release(true, null)
+            SliderGestures.release(root, true, null)
         }
         onDoubleClicked: function (mouse) {
-            root._doubleClick(mouse.x, mouse.y)
+            SliderGestures.doubleClick(root, mouse.x, mouse.y)
         }
         onPressAndHold: function (mouse) {
             if (!root._gestureOpen || root.dragging)
@@ -581,7 +340,7 @@ VynItem {
             root.longPressed(mouse)
         }
         onWheel: function (wheel) {
-            wheel.accepted = root._wheel(wheel.angleDelta.y, wheel.modifiers)
+            wheel.accepted = SliderGestures.wheel(root, wheel.angleDelta.y, wheel.modifiers)
         }
     }
 }
