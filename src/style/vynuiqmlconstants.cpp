@@ -1571,3 +1571,20 @@ QColor VynUIQmlConstants::popoverButtonBorderColor(VynColorUtils::VynStyle p_sty
 {
     return VynColorAppearance::popoverButtonBorderColor(p_style);
 }
+
+VynLedParamConfig VynUIQmlConstants::createParamConfig(VynViewUtils::VynLedState p_state,
+                                                       const VynProxyParamPath& p_path,
+                                                       const VynProxyParamPath& p_addPath,
+                                                       int p_priority, int p_lowerThs,
+                                                       int p_upperThs, bool p_skipMultiple)
+{
+    VynLedParamConfig config;
+    config.state = p_state;
+    config.path = p_path;
+    config.addPath = p_addPath;
+    config.priority = p_priority;
+    config.lowerThs = p_lowerThs;
+    config.upperThs = p_upperThs;
+    config.skipMultiple = p_skipMultiple;
+    return config;
+}
