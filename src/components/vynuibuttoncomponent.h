@@ -94,9 +94,9 @@ public:
     VynUIButtonConfig buttonConfig() const;
     void setButtonConfig(const VynUIButtonConfig& config);
 
+    Q_INVOKABLE void restoreFromUIComponent(VynUIComponent* p_other) override;
     //! Sets text and the tooltip to \a p_string.
     Q_INVOKABLE void setTextAndTip(const QString& p_string);
-    Q_INVOKABLE void restoreFromUIComponent(VynUIComponent* p_other) override;
     Q_INVOKABLE QString toStringValue() override;
 
 signals:

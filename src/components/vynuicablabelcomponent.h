@@ -42,7 +42,7 @@ public:
     VynMultiPartName multiPartName() const { return m_multiPartName; }
     void setMultiPartName(const VynMultiPartName& name);
 
-    Q_INVOKABLE void restoreFromUIComponent(VynUIComponent* p_other) override;
+    void restoreFromUIComponent(VynUIComponent* p_other) override;
     Q_INVOKABLE QString toStringValue() override;
 
 signals:
