@@ -5,6 +5,7 @@
 #include <vynfileutils.h>
 
 #include <QJSEngine>
+#include <QMetaEnum>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QWindow>
@@ -1579,7 +1580,8 @@ VynLedParamConfig VynUIQmlConstants::createParamConfig(VynViewUtils::VynLedState
                                                        int p_upperThs, bool p_skipMultiple)
 {
     VynLedParamConfig config;
-    config.state = p_state;
+    const bool named = QMetaEnum::fromType<VynViewUtils::VynLedState>().valueToKey(p_state);
+    config.state = named ? p_state : VynViewUtils::VynLedStateNone;
     config.path = p_path;
     config.addPath = p_addPath;
     config.priority = p_priority;

@@ -683,7 +683,8 @@ public:
     Q_INVOKABLE static QColor
     vuMeterOffColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
 
-    //! An LED configuration with these fields, no flag set (see VynLedParamConfig).
+    //! An LED configuration with these fields, no flag set (see VynLedParamConfig). A state
+    //! that VynLedState does not name gives VynLedStateNone.
     Q_INVOKABLE static VynLedParamConfig createParamConfig(VynViewUtils::VynLedState p_state,
                                                            const VynProxyParamPath& p_path,
                                                            const VynProxyParamPath& p_addPath,

@@ -641,6 +641,14 @@ void tst_DiscreteComponents::ledCreateParamConfig()
     QVERIFY(c.skipMultiple);
     QCOMPARE(c.flags, 0);
     QVERIFY(!c.isDefault());
+    // A state QML made up from an integer the enumeration does not name.
+    for (int unnamed : {-1, 5, 261, 1000}) {
+        QCOMPARE(
+            VynUIQmlConstants::createParamConfig(static_cast<VynViewUtils::VynLedState>(unnamed),
+                                                 path("A"), VynProxyParamPath(), 0, 0, 0, false)
+                .state,
+            VynViewUtils::VynLedStateNone);
+    }
 
     // The singleton answers QML with the record; QML reads and writes its fields by name.
     VynLedParamConfig answered;
