@@ -9,7 +9,14 @@ namespace QtCommonsConstants {
 Q_NAMESPACE_EXPORT(QTCOMMONS_EXPORT)
 
 //! Tri-state flag: off, on, or mixed (a selection whose members differ). Also a table index.
-enum VynBOOL : int { VynBOOLFalse = 0, VynBOOLTrue = 1, VynBOOLMixed = 2 };
+//! VynNO and VynYES are the older names of off and on.
+enum VynBOOL : int {
+    VynBOOLFalse = 0,
+    VynBOOLTrue = 1,
+    VynBOOLMixed = 2,
+    VynNO = VynBOOLFalse,
+    VynYES = VynBOOLTrue,
+};
 Q_ENUM_NS(VynBOOL)
 
 /*!

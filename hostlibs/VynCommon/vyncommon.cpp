@@ -4,6 +4,7 @@
 #include "vyneqconstants.h"
 #include "vynfamilyutils.h"
 #include "vynlocalizable.h"
+#include "vynmultipartname.h"
 #include "vynproxyparampath.h"
 #include "vynrgbcolor.h"
 
@@ -22,6 +23,7 @@ void initializeTypes()
     qRegisterMetaType<VynCommonConstants::VynSecurityType>();
     qRegisterMetaType<VynEQConstants::VynEQBandType>();
     qRegisterMetaType<VynRGBColor>();
+    qRegisterMetaType<VynMultiPartName>();
 }
 
 void onOpeningModule()

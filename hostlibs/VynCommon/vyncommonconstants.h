@@ -8,6 +8,9 @@
 //! The shared null text, returned wherever no text exists. isNull() is true.
 VYNCOMMON_EXPORT extern const QString kVynNullString;
 
+//! A parameter value as the device holds it, before any transformer: an index, a mask, a level.
+using VynRawValue = int;
+
 namespace VynCommonConstants {
 Q_NAMESPACE_EXPORT(VYNCOMMON_EXPORT)
 

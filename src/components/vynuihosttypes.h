@@ -2,7 +2,9 @@
 
 #include <qapplicationmessage.h>
 #include <qcorewindowcontroller.h>
+#include <qtcommonsconstants.h>
 #include <vyncommonconstants.h>
+#include <vynmultipartname.h>
 #include <vyntransformer.h>
 
 #include <QObject>
@@ -12,6 +14,9 @@
 /*!
     The host-library types the component models hand to QML:
     - VynCommonConstants: the security-type enum, VynCommonConstants.VynSecurityTypeDisable.
+    - QtCommonsConstants: the tri-state of the buttons, QtCommonsConstants.VynBOOLMixed.
+    - VynMultiPartName: the value type vynMultiPartName of the cabinet labels (series,
+      model, preset, ..., tooltipText).
     - QApplicationMessage: the message levels and types, QApplicationMessage.Level_Warn;
       not creatable.
     - VynTransformer and QCoreWindowController: known to QML as property and argument
@@ -22,6 +27,19 @@ Q_NAMESPACE
 QML_FOREIGN_NAMESPACE(VynCommonConstants)
 QML_NAMED_ELEMENT(VynCommonConstants)
 } // namespace VynCommonConstantsForeign
+
+namespace QtCommonsConstantsForeign {
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(QtCommonsConstants)
+QML_NAMED_ELEMENT(QtCommonsConstants)
+} // namespace QtCommonsConstantsForeign
+
+struct VynMultiPartNameForeign
+{
+    Q_GADGET
+    QML_FOREIGN(VynMultiPartName)
+    QML_VALUE_TYPE(vynMultiPartName)
+};
 
 struct QApplicationMessageForeign
 {

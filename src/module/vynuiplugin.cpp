@@ -1,6 +1,9 @@
 #include "vynuiplugin.h"
 
 #include "vyncolorutils.h"
+#include "vynledparamconfig.h"
+#include "vynuibuttonconfig.h"
+#include "vynuihandybuttoncomponent.h"
 #include "vynuilocalizable.h"
 #include "vynviewutils.h"
 #include "vynvumeterconstants.h"
@@ -25,6 +28,16 @@ template <typename T> void registerWithShortName()
         QMetaObject::normalizedType(fullName.mid(separator < 0 ? 0 : separator + 2).constData());
     if (shortName != fullName)
         QMetaType::registerNormalizedTypedef(shortName, type);
+}
+
+// Registers T and \a shortName as a typedef of it, for types whose name has no plain last part.
+template <typename T> void registerWithName(const char* shortName)
+{
+    const QMetaType type = QMetaType::fromType<T>();
+    qRegisterMetaType<T>();
+    const QByteArray name = QMetaObject::normalizedType(shortName);
+    if (name != type.name())
+        QMetaType::registerNormalizedTypedef(name, type);
 }
 
 } // namespace
@@ -63,7 +76,11 @@ void VynUIPlugin::initializeTypes()
     registerWithShortName<VynResizeAnchor>();
     registerWithShortName<VynModalResponse>();
     registerWithShortName<VynResizeSettings>();
+    registerWithShortName<VynLedParamConfig>();
     registerWithShortName<VynVUMeterConstants::VynVUMetreTickMarkConfig>();
+    registerWithShortName<VynUIHandyButtonComponent::ButtonType>();
+    registerWithName<VynUIHandyButtonComponent::ButtonTypes>("ButtonTypes");
+    registerWithShortName<VynUIButtonConfig>();
     registerWithShortName<VynSpinBoxValue>();
     registerWithShortName<VynUIComponentType>();
 

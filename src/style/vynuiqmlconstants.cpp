@@ -8,6 +8,7 @@
 
 #include <QHash>
 #include <QJSEngine>
+#include <QMetaEnum>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QThread>
@@ -1630,4 +1631,22 @@ QColor VynUIQmlConstants::popoverButtonFillColor(VynColorUtils::VynStyle p_style
 QColor VynUIQmlConstants::popoverButtonBorderColor(VynColorUtils::VynStyle p_style)
 {
     return VynColorAppearance::popoverButtonBorderColor(p_style);
+}
+
+VynLedParamConfig VynUIQmlConstants::createParamConfig(VynViewUtils::VynLedState p_state,
+                                                       const VynProxyParamPath& p_path,
+                                                       const VynProxyParamPath& p_addPath,
+                                                       int p_priority, int p_lowerThs,
+                                                       int p_upperThs, bool p_skipMultiple)
+{
+    VynLedParamConfig config;
+    const bool named = QMetaEnum::fromType<VynViewUtils::VynLedState>().valueToKey(p_state);
+    config.state = named ? p_state : VynViewUtils::VynLedStateNone;
+    config.path = p_path;
+    config.addPath = p_addPath;
+    config.priority = p_priority;
+    config.lowerThs = p_lowerThs;
+    config.upperThs = p_upperThs;
+    config.skipMultiple = p_skipMultiple;
+    return config;
 }

@@ -2,6 +2,7 @@
 
 #include "vyncolorappearance.h"
 #include "vyncolorutils.h"
+#include "vynledparamconfig.h"
 #include "vynuiglobal.h"
 #include "vynviewutils.h"
 #include "vynvumeterconstants.h"
@@ -700,6 +701,14 @@ public:
     //! The colour of unlit cells.
     Q_INVOKABLE static QColor
     vuMeterOffColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+
+    //! An LED configuration with these fields, no flag set (see VynLedParamConfig). A state
+    //! that VynLedState does not name gives VynLedStateNone.
+    Q_INVOKABLE static VynLedParamConfig createParamConfig(VynViewUtils::VynLedState p_state,
+                                                           const VynProxyParamPath& p_path,
+                                                           const VynProxyParamPath& p_addPath,
+                                                           int p_priority, int p_lowerThs,
+                                                           int p_upperThs, bool p_skipMultiple);
 
 private:
     explicit VynUIQmlConstants(QObject* p_parent = nullptr);

@@ -2,10 +2,12 @@
 // that reports an overflow (infinity). One table per family of setters: a NaN is refused (old
 // state kept, no signal at all, exactly one log line); an infinity becomes the end of the range
 // where a range exists, and is refused where none does; a value label that cannot be placed
-// is hidden.
+// is hidden. A button, which has no range, refuses a rate or an option value that is not a
+// finite number.
 
 #include "vynlabeloptimizer.h"
 #include "vynoptimizedlabel.h"
+#include "vynuibuttoncomponent.h"
 #include "vynuislidefieldcomponent.h"
 #include "vynuislidercomponent.h"
 
@@ -149,6 +151,8 @@ private slots:
     void componentValidators();
     void labels_data();
     void labels();
+    void buttonSetters_data();
+    void buttonSetters();
 };
 
 void tst_HostileValues::componentSetters_data()
@@ -305,6 +309,50 @@ void tst_HostileValues::labels()
     QCOMPARE(right.optimizedPosition(), rightAlone);
     QVERIFY(left.isVisible() && right.isVisible());
     QVERIFY(std::isfinite(left.optimizedPosition()) && std::isfinite(right.optimizedPosition()));
+}
+
+void tst_HostileValues::buttonSetters_data()
+{
+    // A button has no range: every value that is not a finite number is refused.
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("input");
+
+    QTest::newRow("rate NaN") << QByteArray("rate") << QVariant(kNaN);
+    QTest::newRow("rate +inf") << QByteArray("rate") << QVariant(kInf);
+    QTest::newRow("rate -inf") << QByteArray("rate") << QVariant(-kInf);
+    QTest::newRow("optionValue NaN") << QByteArray("optionValue") << QVariant(kNaN);
+    QTest::newRow("optionValue float NaN")
+        << QByteArray("optionValue") << QVariant(std::numeric_limits<float>::quiet_NaN());
+    QTest::newRow("optionAltValue NaN") << QByteArray("optionAltValue") << QVariant(kNaN);
+    VynUIButtonConfig config;
+    config.action = 9;
+    config.optionValue = kNaN;
+    QTest::newRow("buttonConfig holding NaN")
+        << QByteArray("buttonConfig") << QVariant::fromValue(config);
+    config.optionValue = 1;
+    config.optionAltValue = kNaN;
+    config.toggleBitMask = 0x2;
+    QTest::newRow("buttonConfig holding NaN, new mask")
+        << QByteArray("buttonConfig") << QVariant::fromValue(config);
+}
+
+void tst_HostileValues::buttonSetters()
+{
+    QFETCH(QByteArray, property);
+    QFETCH(QVariant, input);
+
+    VynUIButtonComponent button;
+    button.setRate(0.25);
+    button.setOptionValue(2.0);
+    button.setOptionAltValue(3.0);
+    const VynUIButtonConfig before = button.buttonConfig();
+    AllSignals emitted(&button);
+    WarningCounter warnings;
+    QVERIFY(button.setProperty(property.constData(), input));
+    QCOMPARE(emitted.fired(), QStringList());
+    QCOMPARE(warnings.count(), 1);
+    QCOMPARE(button.rate(), 0.25);
+    QVERIFY(button.buttonConfig() == before);
 }
 
 QTEST_GUILESS_MAIN(tst_HostileValues)

@@ -1,12 +1,19 @@
 #include <vyncolorutils.h>
+#include <vynledparamconfig.h>
+#include <vynuibuttoncomponent.h>
+#include <vynuibuttonconfig.h>
+#include <vynuihandybuttoncomponent.h>
 #include <vynuikey.h>
+#include <vynuiledcomponent.h>
 #include <vynuilocalizable.h>
 #include <vynuiplugin.h>
 #include <vynviewutils.h>
+#include <vynvumeterconstants.h>
 
 #include <qtcommons.h>
 #include <qtcommonsconstants.h>
 #include <vyncommon.h>
+#include <vynmultipartname.h>
 
 #include <QPluginLoader>
 #include <QQmlComponent>
@@ -20,12 +27,16 @@ class TestPlugin : public QObject
 private slots:
     void metadata();
     void slotsAndInstance();
+    void registrationOrder();
     void shortTypeNames_data();
     void shortTypeNames();
     void localisationTable();
     void openingRegistersTable();
     void keys();
     void typesReachQml();
+    void componentTypeNames_data();
+    void componentTypeNames();
+    void discreteModelsReachQml();
 };
 
 void TestPlugin::metadata()
@@ -56,6 +67,44 @@ void TestPlugin::slotsAndInstance()
              QByteArray("onLeavingModule()"));
     QVERIFY(QMetaObject::invokeMethod(plugin, "onOpeningModule"));
     QVERIFY(QMetaObject::invokeMethod(plugin, "onLeavingModule"));
+}
+
+// The meta-types get their ids in the order initializeTypes() registers them, when nothing
+// used them before: the value and enum types that wait for the component types come last, in
+// a fixed order.
+void TestPlugin::registrationOrder()
+{
+    VynUIPlugin::initializeTypes();
+    using namespace VynViewUtils;
+    const QList<QMetaType> order = {
+        QMetaType::fromType<VynColorUtils::VynStyle>(),
+        QMetaType::fromType<VynColorUtils::VynStylePreference>(),
+        QMetaType::fromType<VynLiveButtonMode>(),
+        QMetaType::fromType<VynControlSize>(),
+        QMetaType::fromType<VynSelectorCellMode>(),
+        QMetaType::fromType<VynLedState>(),
+        QMetaType::fromType<VynLedShape>(),
+        QMetaType::fromType<VynVerticalAlignment>(),
+        QMetaType::fromType<VynAlignmentType>(),
+        QMetaType::fromType<VynSide>(),
+        QMetaType::fromType<VynCorner>(),
+        QMetaType::fromType<VynSideBounds>(),
+        QMetaType::fromType<VynGraphLabel>(),
+        QMetaType::fromType<VynComboValue>(),
+        QMetaType::fromType<VynParamSelectValue>(),
+        QMetaType::fromType<VynTextFieldValue>(),
+        QMetaType::fromType<VynResizeAnchor>(),
+        QMetaType::fromType<VynModalResponse>(),
+        QMetaType::fromType<VynResizeSettings>(),
+        QMetaType::fromType<VynLedParamConfig>(),
+        QMetaType::fromType<VynVUMeterConstants::VynVUMetreTickMarkConfig>(),
+        QMetaType::fromType<VynUIHandyButtonComponent::ButtonType>(),
+        QMetaType::fromType<VynUIHandyButtonComponent::ButtonTypes>(),
+        QMetaType::fromType<VynUIButtonConfig>(),
+    };
+    for (qsizetype i = 1; i < order.size(); ++i) {
+        QVERIFY2(order.at(i - 1).id() < order.at(i).id(), order.at(i).name());
+    }
 }
 
 void TestPlugin::shortTypeNames_data()
@@ -168,6 +217,91 @@ void TestPlugin::typesReachQml()
     QCOMPARE(item->property("testString").toString(), QStringLiteral("This is a very big test!"));
     QCOMPARE(item->property("side").toInt(), 8);
     QCOMPARE(item->property("style").toInt(), 0);
+}
+
+void TestPlugin::componentTypeNames_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QMetaType>("type");
+    QTest::newRow("ButtonType") << QByteArray("ButtonType")
+                                << QMetaType::fromType<VynUIHandyButtonComponent::ButtonType>();
+    QTest::newRow("ButtonTypes") << QByteArray("ButtonTypes")
+                                 << QMetaType::fromType<VynUIHandyButtonComponent::ButtonTypes>();
+    QTest::newRow("VynUIButtonConfig")
+        << QByteArray("VynUIButtonConfig") << QMetaType::fromType<VynUIButtonConfig>();
+    QTest::newRow("VynLedParamConfig")
+        << QByteArray("VynLedParamConfig") << QMetaType::fromType<VynLedParamConfig>();
+    QTest::newRow("VynMultiPartName")
+        << QByteArray("VynMultiPartName") << QMetaType::fromType<VynMultiPartName>();
+}
+
+void TestPlugin::componentTypeNames()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QMetaType, type);
+    VynUIPlugin::initializeTypes();
+    QCOMPARE(QMetaType::fromName(name), type);
+    // A flag set travels through a QVariant as its own type.
+    const QVariant flags = QVariant::fromValue(VynUIHandyButtonComponent::ButtonTypes(
+        VynUIHandyButtonComponent::Mute | VynUIHandyButtonComponent::Locate));
+    QCOMPARE(flags.toInt(), 10);
+}
+
+// The discrete models, their records and enums, as the module's documents use them.
+void TestPlugin::discreteModelsReachQml()
+{
+    QQmlEngine engine;
+    engine.addImportPath(QStringLiteral(VYNUI_QML_IMPORT_PATH));
+    QQmlComponent component(&engine);
+    component.setData(R"(
+import QtQuick
+import VynUI 1.2
+QtObject {
+    property VynUIButtonComponent button: VynUIButtonComponent {
+        text: "Mute"; isOn: QtCommonsConstants.VynBOOLMixed }
+    property VynUILedComponent led: VynUILedComponent { allowsMixed: true }
+    property VynUIHandyButtonComponent handy: VynUIHandyButtonComponent {
+        visibleButtonType: VynUIHandyButtonComponent.Locate }
+    property VynUILabelComponent label: VynUILabelComponent { textColor: "red" }
+    property VynUICabLabelComponent cab: VynUICabLabelComponent { usesShortStyle: true }
+    property VynUIComboComponent combo: VynUIComboComponent {
+        itemTexts: ["Off", "On"]; selectedIndexes: [1] }
+    property bool multiple: button.multiple
+    property string buttonText: button.toStringValue()
+    property int action: button.buttonConfig.action
+    property string comboText: combo.text
+    property string cabText: cab.multiPartName.tooltipText
+    property int priority: -1
+    Component.onCompleted: {
+        const config = VynUIQmlConstants.createParamConfig(VynViewUtils.VynLedStateRed,
+            button.paramPath, button.paramPath, 2, 0, 1, false)
+        priority = config.priority
+        config.isDefault = true
+        led.addParamConfig(config)
+        handy.insertVisibleComponent(button)
+    }
+}
+)",
+                      QUrl());
+    QScopedPointer<QObject> root(component.create());
+    QVERIFY2(root, qPrintable(component.errorString()));
+    QCOMPARE(root->property("multiple").toBool(), true);
+    QCOMPARE(root->property("buttonText").toString(), QStringLiteral("Mult. Mute"));
+    QCOMPARE(root->property("action").toInt(), 0);
+    QCOMPARE(root->property("comboText").toString(), QStringLiteral("On"));
+    QCOMPARE(root->property("cabText").toString(), QString());
+    QCOMPARE(root->property("priority").toInt(), 2);
+
+    auto* led = root->property("led").value<VynUILedComponent*>();
+    QVERIFY(led);
+    QCOMPARE(led->getParamConfigs().size(), 1);
+    QCOMPARE(led->getDefaultParamConfig().state, VynViewUtils::VynLedStateRed);
+    auto* handy = root->property("handy").value<VynUIHandyButtonComponent*>();
+    QVERIFY(handy);
+    QCOMPARE(handy->getVisibleButtonComponent(0),
+             root->property("button").value<VynUIButtonComponent*>());
+    QCOMPARE(root->property("label").value<QObject*>()->property("textColor").value<QColor>(),
+             QColor(Qt::red));
 }
 
 QTEST_MAIN(TestPlugin)

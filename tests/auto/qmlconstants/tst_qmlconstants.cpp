@@ -114,6 +114,8 @@ QVariant neutralArgument(QMetaType type)
         return QVariant::fromValue(QList<double>{0.0, 0.5, 1.0});
     if (type == QMetaType::fromType<QWindow*>())
         return QVariant::fromValue<QWindow*>(nullptr);
+    if (type == QMetaType::fromType<VynProxyParamPath>())
+        return QVariant::fromValue(VynProxyParamPath::fromString(QStringLiteral("Amp[1]/Mute")));
     QVariant value(1);
     return value.convert(type) ? value : QVariant();
 }
@@ -155,6 +157,9 @@ const EnumRule kEnumRules[] = {
      {0, 1, 2, 3, 4, 5, 6, 7, 65535},
      [](int, const QByteArray&) { return 65535; }},
     {"VynColorUtils::VynStylePreference", {0, 1, 2}, [](int, const QByteArray&) { return 2; }},
+    {"VynViewUtils::VynLedState",
+     {0, 1, 2, 3, 4, 255, 256, 257, 258, 259, 260, 512, 513, 514},
+     [](int, const QByteArray&) { return int(VynViewUtils::VynLedStateNone); }},
 };
 
 const EnumRule* enumRule(QMetaType type)
