@@ -3,8 +3,11 @@
 #include "vynuikey.h"
 
 #include <qapplicationsettings.h>
+#include <qcorewindowcontroller.h>
 #include <vyncommonconstants.h>
 
+#include <QQuickItem>
+#include <QQuickWindow>
 #include <QTimer>
 
 namespace {
@@ -17,6 +20,13 @@ QVariantList hiddenHints()
         .toList();
 }
 
+// Every live manager, so that a control can find the one of its window.
+QList<VynHintManager*>& liveManagers()
+{
+    static QList<VynHintManager*> s_managers;
+    return s_managers;
+}
+
 void saveHiddenHints(const QVariantList& list)
 {
     QApplicationSettings::sharedSettings(nullptr)->saveSetting(
@@ -26,7 +36,10 @@ void saveHiddenHints(const QVariantList& list)
 
 } // namespace
 
-VynHintManager::VynHintManager(QObject* parent) : QObject(parent) {}
+VynHintManager::VynHintManager(QObject* parent) : QObject(parent)
+{
+    liveManagers().append(this);
+}
 
 VynHintManager::~VynHintManager()
 {
@@ -36,6 +49,28 @@ VynHintManager::~VynHintManager()
     stopObservingHint(m_presentedHint);
     m_queue.clear();
     m_presentedHint = nullptr;
+    liveManagers().removeAll(this);
+}
+
+VynHintManager* VynHintManager::managerForQmlObject(QObject* object, QObject** parentItem)
+{
+    if (parentItem)
+        *parentItem = nullptr;
+    QQuickWindow* window = QCoreWindowController::windowForQmlObject(object);
+    if (!window)
+        return nullptr;
+    auto* found = qobject_cast<VynHintManager*>(window->property("hintManager").value<QObject*>());
+    if (!found) {
+        for (VynHintManager* manager : std::as_const(liveManagers())) {
+            if (QCoreWindowController::windowForQmlObject(manager) == window) {
+                found = manager;
+                break;
+            }
+        }
+    }
+    if (found && parentItem)
+        *parentItem = window->contentItem();
+    return found;
 }
 
 bool VynHintManager::scheduleHint(const QString& p_identifier, QObject* p_presentingView,

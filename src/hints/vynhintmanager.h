@@ -9,6 +9,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+class QQuickWindow;
 class QTimer;
 
 /*!
@@ -98,6 +99,15 @@ public:
     static void dontShowAgainHint(const QString& identifier);
     static void resetHiddenHints();
     static bool hasHiddenHints();
+
+    /*!
+        The manager of the window \a object is shown in: the window's "hintManager"
+        property when it holds one, else a manager declared in that window's scene (or
+        made with an object of it as parent). Null when the object is in no window or the
+        window has no manager. \a parentItem, when given, receives the window's content item
+        (null when there is no manager).
+    */
+    static VynHintManager* managerForQmlObject(QObject* object, QObject** parentItem = nullptr);
 
     //! The first queued hint with \a identifier, else the presented one if it has it, else null.
     VynHintData* getHintWithIdentifier(const QString& identifier) const;

@@ -1571,3 +1571,14 @@ QColor VynUIQmlConstants::popoverButtonBorderColor(VynColorUtils::VynStyle p_sty
 {
     return VynColorAppearance::popoverButtonBorderColor(p_style);
 }
+
+VynHintManager* VynUIQmlConstants::hintManagerForQmlObject(QObject* p_object)
+{
+    return hintManagerForQmlObject(p_object, nullptr);
+}
+
+VynHintManager* VynUIQmlConstants::hintManagerForQmlObject(QObject* p_object,
+                                                           QObject** p_parentItem)
+{
+    return keptByHost(VynHintManager::managerForQmlObject(p_object, p_parentItem));
+}

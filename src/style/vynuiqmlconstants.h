@@ -23,6 +23,8 @@
 #include <QVariantList>
 #include <QWindow>
 
+#include "vynhintmanager.h"
+
 #include <qapplicationmessage.h>
 #include <qcorewindowcontroller.h>
 
@@ -681,6 +683,14 @@ public:
     //! The colour of unlit cells.
     Q_INVOKABLE static QColor
     vuMeterOffColor(VynColorUtils::VynStyle p_style = VynColorUtils::VynStyleDark);
+
+    /*!
+        The hint manager of the window \a p_object is shown in (see
+        VynHintManager::managerForQmlObject()); \a p_parentItem receives the window's
+        content item. Null when there is none.
+    */
+    Q_INVOKABLE static VynHintManager* hintManagerForQmlObject(QObject* p_object);
+    static VynHintManager* hintManagerForQmlObject(QObject* p_object, QObject** p_parentItem);
 
 private:
     explicit VynUIQmlConstants(QObject* p_parent = nullptr);
