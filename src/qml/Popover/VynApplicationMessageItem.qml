@@ -38,6 +38,8 @@ FocusScope {
     property bool isChecked: false
     property int defaultButtonIndex: 0
     property int cancelButtonIndex: -1
+    // The buttons' objectNames are this prefix and their index.
+    property string buttonObjectNamePrefix: "vynMessageButton"
 
     signal buttonClicked(int index)
 
@@ -234,7 +236,7 @@ FocusScope {
                     required property int index
                     readonly property bool isDefault: index === root.defaultButtonIndex
                     readonly property string text: root.__textOf(root.componentModel[index])
-                    objectName: "vynMessageButton" + index
+                    objectName: root.buttonObjectNamePrefix + index
                     implicitWidth: Math.max(VynUIQmlConstants.flatButtonMinWidth(root.vynControlSize, root.vynPixelRatio) * 2.4,
                                             label.implicitWidth + 4 * VynUIQmlConstants.flatButtonTitleInsetsH(root.vynControlSize, root.vynPixelRatio))
                     width: implicitWidth
