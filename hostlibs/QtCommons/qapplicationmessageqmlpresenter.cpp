@@ -49,7 +49,9 @@ Popup {
     }
 
     background: Rectangle {
-        color: VynUIQmlConstants.popoverBackgroundColorForStyle(VynColorUtils.VynStyleDark)
+        color: VynUIQmlConstants.noAlphaColorOverColor(
+                   VynUIQmlConstants.popoverBackgroundColorForStyle(VynColorUtils.VynStyleDark),
+                   VynUIQmlConstants.windowBackgroundColorForStyle(VynColorUtils.VynStyleDark))
         border.color: VynUIQmlConstants.popoverBorderColorForStyle(VynColorUtils.VynStyleDark)
         border.width: VynUIQmlConstants.popoverBorderWidth(1.0)
         radius: VynUIQmlConstants.popoverCornerRadius(1.0)

@@ -50,7 +50,10 @@ FocusScope {
     readonly property color __textColor: VynUIQmlConstants.labelColorForStyle(vynStyle, 0)
     readonly property color __detailColor: VynUIQmlConstants.labelColorForStyle(vynStyle, 1)
 
-    implicitWidth: Math.max(buttons.implicitWidth, textColumnWidth + (hasIcon ? __iconSize + __margin : 0))
+    // A hint takes the width its popover gives it and wraps its text: only its buttons widen
+    // it. Other messages grow with their text up to twice the generic popover width.
+    implicitWidth: Math.max(buttons.implicitWidth,
+                            type === QApplicationMessage.Type_Hint ? 0 : textColumnWidth + (hasIcon ? __iconSize + __margin : 0))
     implicitHeight: content.implicitHeight
     readonly property real textColumnWidth: Math.min(__maxTextWidth, Math.max(titleMetrics.width, messageMetrics.width))
 

@@ -89,7 +89,11 @@ Item {
             ax: frame.arrowX
             asz: frame.arrowSize
             up: frame.arrowUp
-            fillColor: VynUIQmlConstants.popoverBackgroundColorForStyle(frame.vynStyle)
+            // The catalogue's popover colour is translucent; the panel shows it over the
+            // window colour so that nothing behind it shows through.
+            fillColor: VynUIQmlConstants.noAlphaColorOverColor(
+                           VynUIQmlConstants.popoverBackgroundColorForStyle(frame.vynStyle),
+                           VynUIQmlConstants.windowBackgroundColorForStyle(frame.vynStyle))
             strokeColor: VynUIQmlConstants.popoverBorderColorForStyle(frame.vynStyle)
             strokeWidth: frame.borderWidth
         }
