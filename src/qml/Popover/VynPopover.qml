@@ -90,7 +90,10 @@ Popup {
         root.y = py - r.y
     }
 
-    onAboutToShow: place()
+    onAboutToShow: {
+        root.__shown = true
+        root.place()
+    }
     onWidthChanged: if (visible) place()
     onHeightChanged: if (visible) place()
 
@@ -102,13 +105,13 @@ Popup {
         NumberAnimation { property: "opacity"; from: 1; to: 0; duration: root.closeAnimationDuration; easing.type: Easing.InCubic }
     }
 
-    background: VynPopoverBackground {
-        vynStyle: root.vynStyle
-        vynPixelRatio: root.vynPixelRatio
-        arrowEdge: root.__arrowEdge
-        arrowX: root.__arrowX
-        arrowSize: root.arrowSize
-        cornerRadius: root.cornerRadius
-        borderWidth: root.borderWidth
+    // The panel is made on the first opening, not with the popover: most popovers are
+    // declared long before they are shown, and many never are.
+    property bool __shown: false
+
+    background: Loader {
+        active: root.__shown
+        sourceComponent: VynPopoverBackground {}
+        onLoaded: (item as VynPopoverBackground).popover = root
     }
 }

@@ -2,19 +2,22 @@ import QtQuick
 import QtQuick.Shapes
 import VynUI 1.2
 
-// The panel of a VynPopover: a rounded rectangle in the popover colours of the style, with
-// the arrow on its top edge (arrowEdge VynPopover.ArrowTop) or its bottom edge, its tip
-// arrowX from the left, over a soft shadow.
+// The panel of a VynPopover: a rounded rectangle in the popover colours of the popover's
+// style, with the arrow on its top edge (arrowEdge VynPopover.ArrowTop) or its bottom edge,
+// its tip arrowX from the left, over a soft shadow.
 Item {
     id: frame
 
-    property int vynStyle: VynColorUtils.VynStyleDark
-    property real vynPixelRatio: 1.0
-    property int arrowEdge: VynPopover.ArrowTop
-    property real arrowX: width / 2
-    property real arrowSize: 10
-    property real cornerRadius: 7
-    property real borderWidth: 1
+    // The popover the panel belongs to; the panel follows its style, ratio and placement.
+    property var popover: null
+
+    readonly property int vynStyle: popover ? popover.vynStyle : VynColorUtils.VynStyleDark
+    readonly property real vynPixelRatio: popover ? popover.vynPixelRatio : 1.0
+    readonly property int arrowEdge: popover ? popover.arrowEdge : VynPopover.ArrowTop
+    readonly property real arrowX: popover ? popover.arrowX : width / 2
+    readonly property real arrowSize: popover ? popover.arrowSize : 10
+    readonly property real cornerRadius: popover ? popover.cornerRadius : 7
+    readonly property real borderWidth: popover ? popover.borderWidth : 1
 
     // The outline's edges and the arrow's place, as the outline reads them.
     readonly property real panelTop: arrowEdge === VynPopover.ArrowTop ? arrowSize : 0
