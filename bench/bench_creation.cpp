@@ -65,6 +65,15 @@ const Pair kPairs[] = {
     {"VynColorIcon / Image (SVG)", "VynColorIcon { width: 16; height: 16; color: \"#d04040\" }",
      "Image { width: 16; height: 16; sourceSize: Qt.size(16, 16);"
      " source: VynImages.url(\"lock\", 0) }"},
+    {"VynPopover / Popup", "VynPopover { preferredWidth: 200; contentHeight: 60 }",
+     "Popup { width: 200; height: 60 }"},
+    {"VynApplicationMessageItem / Dialog",
+     "VynApplicationMessageItem { title: \"Delete the preset?\"; message: \"It is removed from"
+     " every amplifier.\"; componentModel: [\"Delete\", \"Cancel\"] }",
+     "Dialog { title: \"Delete the preset?\"; standardButtons: Dialog.Ok | Dialog.Cancel;"
+     " Label { text: \"It is removed from every amplifier.\" } }"},
+    {"VynHelpButton / RoundButton", "VynHelpButton { hintIdentifier: \"a\"; hintString: \"b\" }",
+     "RoundButton { text: \"?\" }"},
 };
 
 double median(std::vector<double> values)

@@ -1,5 +1,6 @@
 #include "gallerymoduleinfo.h"
 
+#include <vynhintmanager.h>
 #include <vynviewutils.h>
 
 #include <QMetaEnum>
@@ -26,4 +27,14 @@ QVariantList GalleryModuleInfo::viewEnums() const
 QString GalleryModuleInfo::moduleVersion() const
 {
     return QStringLiteral(VYNUI_VERSION_TEXT);
+}
+
+void GalleryModuleInfo::resetHiddenHints() const
+{
+    VynHintManager::resetHiddenHints();
+}
+
+bool GalleryModuleInfo::hasHiddenHints() const
+{
+    return VynHintManager::hasHiddenHints();
 }

@@ -17,4 +17,7 @@ public:
     //! One entry per enum of VynViewUtils: { name, keys: [{ key, value }] }.
     Q_INVOKABLE QVariantList viewEnums() const;
     Q_INVOKABLE QString moduleVersion() const;
+    //! Shows every hint the user chose never to see again.
+    Q_INVOKABLE void resetHiddenHints() const;
+    Q_INVOKABLE bool hasHiddenHints() const;
 };

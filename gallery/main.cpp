@@ -9,6 +9,7 @@
 
 #include "gallerylayoutcheck.h"
 
+#include <qtcommons.h>
 #include <vynuiplugin.h>
 
 #include <QCommandLineParser>
@@ -118,6 +119,9 @@ int main(int argc, char** argv)
     VynUIPlugin::initializeTypes();
     VynUIPlugin module;
     module.onOpeningModule();
+    // The words the host application's translation data gives the module's hints.
+    QtCommons::addQLocalTable(
+        QString(), {{QStringLiteral("DONT_SHOW_AGAIN"), QStringLiteral("Don't show again")}});
 
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/"));

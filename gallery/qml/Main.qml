@@ -19,7 +19,8 @@ ApplicationWindow {
         { title: "Style", source: "pages/StylePage.qml" },
         { title: "Components", source: "pages/ComponentsPage.qml" },
         { title: "Labels", source: "pages/LabelsPage.qml" },
-        { title: "Controls", source: "pages/ControlsPage.qml" }
+        { title: "Controls", source: "pages/ControlsPage.qml" },
+        { title: "Hints", source: "pages/HintsPage.qml" }
     ]
 
     width: 1280

@@ -33,6 +33,17 @@ QString orDefault(const QString& text, const char* key)
 
 QApplicationMessage::QApplicationMessage(QObject* parent) : QObject(parent) {}
 
+QApplicationMessage::QApplicationMessage(const QApplicationMessage& other, QObject* parent)
+    : QObject(parent), m_title(other.m_title), m_string(other.m_string), m_tag(other.m_tag),
+      m_level(other.m_level), m_type(other.m_type), m_hasCheckbox(other.m_hasCheckbox),
+      m_checkboxText(other.m_checkboxText), m_isChecked(other.m_isChecked),
+      m_userData(other.m_userData), m_window(other.m_window),
+      m_windowControllers(other.m_windowControllers)
+{
+    for (const QApplicationMessageAction* action : other.m_actions)
+        addAction(new QApplicationMessageAction(action->text(), action->handler()));
+}
+
 QApplicationMessage::~QApplicationMessage() = default;
 
 void QApplicationMessage::setTitle(const QString& title)

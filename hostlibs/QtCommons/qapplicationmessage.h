@@ -77,6 +77,13 @@ public:
         std::function<void(int p_response, bool p_isChecked, const QVariant& p_userData)>;
 
     explicit QApplicationMessage(QObject* parent = nullptr);
+    /*!
+        A new message with the texts, tag, level, type, check box, user data,
+        window and window controllers of \a other, and a copy of each of its
+        actions (same text, same handler), under \a parent. The completion is
+        not copied, and the copy is not finished even when \a other is.
+    */
+    QApplicationMessage(const QApplicationMessage& other, QObject* parent);
     ~QApplicationMessage() override;
 
     QString title() const { return m_title; }

@@ -28,6 +28,7 @@ public:
     void setText(const QString& text);
 
     void setHandler(Handler handler) { m_handler = std::move(handler); }
+    Handler handler() const { return m_handler; }
     bool hasHandler() const { return static_cast<bool>(m_handler); }
 
     Q_INVOKABLE void trigger();

@@ -1650,3 +1650,14 @@ VynLedParamConfig VynUIQmlConstants::createParamConfig(VynViewUtils::VynLedState
     config.skipMultiple = p_skipMultiple;
     return config;
 }
+
+VynHintManager* VynUIQmlConstants::hintManagerForQmlObject(QObject* p_object)
+{
+    return hintManagerForQmlObject(p_object, nullptr);
+}
+
+VynHintManager* VynUIQmlConstants::hintManagerForQmlObject(QObject* p_object,
+                                                           QObject** p_parentItem)
+{
+    return keptByHost(VynHintManager::managerForQmlObject(p_object, p_parentItem));
+}

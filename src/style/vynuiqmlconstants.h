@@ -24,6 +24,8 @@
 #include <QVariantList>
 #include <QWindow>
 
+#include "vynhintmanager.h"
+
 #include <qapplicationmessage.h>
 #include <qcorewindowcontroller.h>
 
@@ -709,6 +711,14 @@ public:
                                                            const VynProxyParamPath& p_addPath,
                                                            int p_priority, int p_lowerThs,
                                                            int p_upperThs, bool p_skipMultiple);
+
+    /*!
+        The hint manager of the window \a p_object is shown in (see
+        VynHintManager::managerForQmlObject()); \a p_parentItem receives the window's
+        content item. Null when there is none.
+    */
+    Q_INVOKABLE static VynHintManager* hintManagerForQmlObject(QObject* p_object);
+    static VynHintManager* hintManagerForQmlObject(QObject* p_object, QObject** p_parentItem);
 
 private:
     explicit VynUIQmlConstants(QObject* p_parent = nullptr);

@@ -1,7 +1,9 @@
 #include "quicktestsetup.h"
 
 #include <qapplicationmessage.h>
+#include <qapplicationsettings.h>
 #include <qcorewindowcontroller.h>
+#include <vynhintmanager.h>
 #include <vynuiplugin.h>
 #include <vynuislidercomponent.h>
 
@@ -24,6 +26,11 @@ void TestHost::present(QApplicationMessage* p_message)
     m_lastMessage = p_message->string();
     emit presented();
     p_message->respond(m_response);
+}
+
+void TestHost::resetHiddenHints()
+{
+    VynHintManager::resetHiddenHints();
 }
 
 void TestHost::installAnsweringPresenter(int p_response)
@@ -99,6 +106,8 @@ void QuickTestSetup::applicationAvailable()
     VynUIPlugin::initializeTypes();
     VynUIPlugin plugin;
     plugin.onOpeningModule();
+    QApplicationSettings::sharedSettings()->setFileName(
+        m_settingsDir.filePath(QStringLiteral("settings")));
 }
 
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine)

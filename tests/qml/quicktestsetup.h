@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QTemporaryDir>
 #include <QVariantList>
 
 class QQmlEngine;
@@ -41,6 +42,7 @@ public:
 
     Q_INVOKABLE void installAnsweringPresenter(int p_response);
     Q_INVOKABLE void removePresenter();
+    Q_INVOKABLE void resetHiddenHints();
     Q_INVOKABLE bool attachWindowController(QObject* p_item);
     Q_INVOKABLE void detachWindowController();
     Q_INVOKABLE void watchEditing(QObject* p_component);
@@ -81,4 +83,6 @@ public slots:
 
 private:
     TestHost m_host;
+    // The hidden hints the tests store go here, never to the user's settings.
+    QTemporaryDir m_settingsDir;
 };

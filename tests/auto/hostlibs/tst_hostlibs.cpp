@@ -1,3 +1,4 @@
+#include <qapplicationsettings.h>
 #include <qtcommons.h>
 #include <qtcommonsconstants.h>
 #include <vyncommon.h>
@@ -5,9 +6,15 @@
 #include <vynlocalizable.h>
 #include <vynproxyparampath.h>
 
+#include <QDir>
+#include <QFile>
 #include <QMap>
+#include <QRectF>
+#include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
+
+#include <unistd.h>
 
 using QtCommonsConstants::qLocalizedString;
 
@@ -29,6 +36,14 @@ private slots:
     void localTables();
     void translatorComesFirst();
     void builtInTables();
+
+    void settingsRoundTrip_data();
+    void settingsRoundTrip();
+    void settingsWriteNow();
+    void settingsReplaceTheFileWhole();
+    void settingsDamagedFile_data();
+    void settingsDamagedFile();
+    void settingsSharedStore();
 };
 
 void TestHostLibs::pathRoundTrip_data()
@@ -229,6 +244,183 @@ void TestHostLibs::builtInTables()
         QVERIFY2(qLocalizedString(QLatin1String(key), table) != QLatin1String(key), key);
     QCOMPARE(qLocalizedString(QStringLiteral("MULTIPLE"), table), QStringLiteral("Multiple"));
     QVERIFY(kVynNullString.isNull());
+}
+
+void TestHostLibs::settingsRoundTrip_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("group");
+    QTest::newRow("list of identifiers")
+        << QVariant(QVariantList({QStringLiteral("a"), QStringLiteral("b.c")})) << "VynUI";
+    QTest::newRow("empty list") << QVariant(QVariantList()) << "VynUI";
+    QTest::newRow("number, no group") << QVariant(42.5) << "";
+    QTest::newRow("rectangle") << QVariant(QRectF(1, 2, 300, 400)) << "Frames";
+    QTest::newRow("unicode text") << QVariant(QStringLiteral("Gr\u00fc\u00dfe \u266b")) << "G/H";
+}
+
+void TestHostLibs::settingsRoundTrip()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, group);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("sub/folder/app.settings"));
+    {
+        QApplicationSettings settings(file);
+        QCOMPARE(settings.retrieveSetting("entry", "list", QStringLiteral("none"), group),
+                 QVariant(QStringLiteral("none")));
+        QVERIFY(settings.saveSetting(value, "entry", "list", group, true));
+        QVERIFY(!settings.hasPendingChanges());
+        QCOMPARE(settings.retrieveSetting("entry", "list", QVariant(), group), value);
+    }
+    QApplicationSettings reread(file);
+    QCOMPARE(reread.retrieveSetting("entry", "list", QVariant(), group), value);
+    // The three keys all count: another group, entry or list key holds nothing.
+    QVERIFY(!reread.retrieveSetting("entry", "list", QVariant(), group + "x").isValid());
+    QVERIFY(!reread.retrieveSetting("entryx", "list", QVariant(), group).isValid());
+    QVERIFY(!reread.retrieveSetting("entry", "listx", QVariant(), group).isValid());
+    // An invalid value removes the entry.
+    QVERIFY(reread.saveSetting(QVariant(), "entry", "list", group, true));
+    QApplicationSettings third(file);
+    QVERIFY(!third.retrieveSetting("entry", "list", QVariant(), group).isValid());
+}
+
+void TestHostLibs::settingsWriteNow()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("app.settings"));
+    QApplicationSettings settings(file);
+    QVERIFY(settings.saveSetting(1, "later", "k", "g", false));
+    QVERIFY(settings.hasPendingChanges());
+    QVERIFY(!QFile::exists(file));
+    QVERIFY(settings.saveSetting(2, "now", "k", "g", true));
+    {
+        // A write now also carries the earlier pending change.
+        QApplicationSettings other(file);
+        QCOMPARE(other.retrieveSetting("later", "k", QVariant(), "g"), QVariant(1));
+        QCOMPARE(other.retrieveSetting("now", "k", QVariant(), "g"), QVariant(2));
+    }
+    QVERIFY(settings.saveSetting(3, "later", "k", "g"));
+    QVERIFY(settings.sync());
+    QVERIFY(!settings.hasPendingChanges());
+    QCOMPARE(QApplicationSettings(file).retrieveSetting("later", "k", QVariant(), "g"),
+             QVariant(3));
+    // Pending changes reach the file when the store ends.
+    {
+        QApplicationSettings scoped(file);
+        scoped.saveSetting(4, "later", "k", "g");
+    }
+    QCOMPARE(QApplicationSettings(file).retrieveSetting("later", "k", QVariant(), "g"),
+             QVariant(4));
+}
+
+void TestHostLibs::settingsReplaceTheFileWhole()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("app.settings"));
+    const QString oldVersion = dir.filePath(QStringLiteral("old.settings"));
+    QApplicationSettings settings(file);
+    QVERIFY(settings.saveSetting(QStringLiteral("first"), "e", "l", "g", true));
+    // A second name for the file's present content: a write in place would change it too.
+    QCOMPARE(::link(QFile::encodeName(file).constData(), QFile::encodeName(oldVersion).constData()),
+             0);
+    QVERIFY(settings.saveSetting(QStringLiteral("second"), "e", "l", "g", true));
+    QCOMPARE(QApplicationSettings(oldVersion).retrieveSetting("e", "l", QVariant(), "g"),
+             QVariant(QStringLiteral("first")));
+    QCOMPARE(QApplicationSettings(file).retrieveSetting("e", "l", QVariant(), "g"),
+             QVariant(QStringLiteral("second")));
+    // Nothing is left beside the file.
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden),
+             QStringList({"app.settings", "old.settings"}));
+}
+
+void TestHostLibs::settingsDamagedFile_data()
+{
+    QTest::addColumn<QString>("damage");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("empty") << "empty"
+                           << "empty";
+    QTest::newRow("text") << "text"
+                          << "not a settings file";
+    QTest::newRow("cut short") << "truncate"
+                               << "truncated";
+    QTest::newRow("one byte changed") << "flip"
+                                      << "damaged (checksum mismatch)";
+    QTest::newRow("a folder in its place") << "folder"
+                                           << "unreadable";
+}
+
+void TestHostLibs::settingsDamagedFile()
+{
+    QFETCH(QString, damage);
+    QFETCH(QString, reason);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("app.settings"));
+    {
+        QApplicationSettings settings(file);
+        QVERIFY(settings.saveSetting(QVariantList({QStringLiteral("a"), QStringLiteral("b")}), "e",
+                                     "l", "g", true));
+    }
+    QFile raw(file);
+    QVERIFY(raw.open(QIODevice::ReadOnly));
+    QByteArray data = raw.readAll();
+    raw.close();
+    if (damage == "empty")
+        data.clear();
+    else if (damage == "text")
+        data = "[VynUI]\nhiddenHints=a, b\n";
+    else if (damage == "truncate")
+        data.chop(3);
+    else if (damage == "flip")
+        data[data.size() - 2] = char(data.at(data.size() - 2) ^ 0x20);
+    if (damage == "folder") {
+        QVERIFY(QFile::remove(file));
+        QVERIFY(QDir().mkpath(file));
+    } else {
+        QVERIFY(raw.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        QCOMPARE(raw.write(data), data.size());
+        raw.close();
+    }
+
+    QApplicationSettings settings(file);
+    QTest::ignoreMessage(QtWarningMsg,
+                         qPrintable(QStringLiteral("QApplicationSettings: %1 is %2; starting "
+                                                   "with no settings")
+                                        .arg(QDir::toNativeSeparators(file), reason)));
+    // Read as "no settings", and said once however often it is read.
+    QCOMPARE(settings.retrieveSetting("e", "l", QStringLiteral("default"), "g"),
+             QVariant(QStringLiteral("default")));
+    QCOMPARE(settings.retrieveSetting("e", "l", QStringLiteral("default"), "g"),
+             QVariant(QStringLiteral("default")));
+    if (damage == "folder")
+        return;
+    // The next write replaces the damaged file with a sound one.
+    QVERIFY(settings.saveSetting(7, "e", "l", "g", true));
+    QCOMPARE(QApplicationSettings(file).retrieveSetting("e", "l", QVariant(), "g"), QVariant(7));
+}
+
+void TestHostLibs::settingsSharedStore()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("VynHostLibsTest"));
+    const QString name = QApplicationSettings::defaultFileName();
+    QVERIFY2(name.endsWith(QStringLiteral("/VynHostLibsTest/VynHostLibsTest.settings")),
+             qPrintable(name));
+    QApplicationSettings* shared = QApplicationSettings::sharedSettings();
+    QCOMPARE(QApplicationSettings::sharedSettings(this), shared);
+    QCOMPARE(shared->parent(), QCoreApplication::instance());
+    QCOMPARE(shared->fileName(), name);
+
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("chosen.settings"));
+    shared->setFileName(file);
+    QVERIFY(shared->saveSetting(QStringLiteral("v"), "e", "l", "g", true));
+    QVERIFY(QFile::exists(file));
+    delete shared;
+    QApplicationSettings* renewed = QApplicationSettings::sharedSettings(this);
+    QVERIFY(renewed);
+    QCOMPARE(renewed->parent(), this);
+    renewed->setFileName(file);
+    QCOMPARE(renewed->retrieveSetting("e", "l", QVariant(), "g"), QVariant(QStringLiteral("v")));
+    delete renewed;
 }
 
 QTEST_GUILESS_MAIN(TestHostLibs)

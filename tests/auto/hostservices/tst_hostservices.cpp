@@ -103,6 +103,8 @@ private slots:
     void messageSecurityGate();
     void messageActionsRunOnce();
     void defaultPresenterShowsDialog();
+    void defaultPresenterKeyboard_data();
+    void defaultPresenterKeyboard();
 
     void windowControllerLookups();
     void catalogueForwardsFromQml();
@@ -420,6 +422,51 @@ void tst_HostServices::defaultPresenterShowsDialog()
         QTRY_COMPARE(response, button);
         QTRY_VERIFY(!window->findChild<QObject*>("qApplicationMessageDialog"));
     }
+}
+
+void tst_HostServices::defaultPresenterKeyboard_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QStringList>("buttons");
+    QTest::addColumn<int>("response");
+    QTest::newRow("enter confirms") << int(Qt::Key_Return) << QStringList() << 0;
+    QTest::newRow("escape cancels") << int(Qt::Key_Escape) << QStringList() << 1;
+    QTest::newRow("enter, one button") << int(Qt::Key_Enter) << QStringList({"OK"}) << 0;
+    QTest::newRow("escape, three buttons: no choice")
+        << int(Qt::Key_Escape) << QStringList({"Apply", "Keep", "Cancel"}) << -1;
+}
+
+void tst_HostServices::defaultPresenterKeyboard()
+{
+    QFETCH(int, key);
+    QFETCH(QStringList, buttons);
+    QFETCH(int, response);
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\nimport QtQuick.Window\n"
+                      "Window { width: 480; height: 320; visible: true }",
+                      QUrl());
+    std::unique_ptr<QObject> root(component.create());
+    QVERIFY2(root, qPrintable(component.errorString()));
+    auto* window = qobject_cast<QQuickWindow*>(root.get());
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QCoreWindowController controller(window);
+
+    int answer = -2;
+    const auto completion = [&answer](int r, bool, const QVariant&) { answer = r; };
+    if (buttons.isEmpty()) {
+        QApplicationMessage::presentConfirmMessage("Recall the preset?", "", -1, 2, 1, {},
+                                                   {&controller}, nullptr, completion, QVariant());
+    } else {
+        QApplicationMessage::presentCustomMessage("Apply?", "", -1, 1, 2, buttons, {&controller},
+                                                  nullptr, completion, QVariant());
+    }
+    auto* dialog = window->findChild<QObject*>("qApplicationMessageDialog");
+    QVERIFY(dialog);
+    QTRY_VERIFY(dialog->property("opened").toBool());
+    QTest::keyClick(window, Qt::Key(key));
+    QTRY_COMPARE(answer, response);
+    QTRY_VERIFY(!window->findChild<QObject*>("qApplicationMessageDialog"));
 }
 
 void tst_HostServices::windowControllerLookups()
