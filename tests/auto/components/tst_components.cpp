@@ -20,6 +20,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "../common/signalrecorder.h"
+
 #include <limits>
 
 using Security = VynCommonConstants::VynSecurityType;
@@ -32,7 +34,7 @@ VynProxyParamPath path(const char* text)
 }
 
 // Records, in order, the names of the argument-less signals of a component.
-class Recorder
+class Recorder : public SignalRecorder
 {
 public:
     explicit Recorder(VynUIComponent* c)
@@ -64,22 +66,6 @@ public:
             watch(field, &VynUISlideFieldComponent::unitsChanged, "units");
         }
     }
-    ~Recorder()
-    {
-        for (const auto& c : m_connections)
-            QObject::disconnect(c);
-    }
-    QStringList take() { return std::exchange(m_names, {}); }
-
-private:
-    template <typename T> void watch(T* object, void (T::*signal)(), const char* name)
-    {
-        m_connections.append(QObject::connect(
-            object, signal, [this, name] { m_names.append(QString::fromLatin1(name)); }));
-    }
-
-    QStringList m_names;
-    QList<QMetaObject::Connection> m_connections;
 };
 
 // Answers every message at once with a fixed response and remembers what it was shown.

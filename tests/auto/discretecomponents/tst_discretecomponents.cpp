@@ -19,6 +19,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "../common/signalrecorder.h"
+
 #include <functional>
 #include <limits>
 #include <memory>
@@ -34,7 +36,7 @@ VynProxyParamPath path(const QString& text)
 }
 
 // Records, in order, the names of the argument-less signals of a component.
-class Recorder
+class Recorder : public SignalRecorder
 {
 public:
     explicit Recorder(VynUIComponent* c)
@@ -65,19 +67,18 @@ public:
         if (auto* handy = qobject_cast<VynUIHandyButtonComponent*>(c)) {
             watch(handy, &VynUIHandyButtonComponent::capabilitiesChanged, "capabilities");
             watch(handy, &VynUIHandyButtonComponent::visibleButtonTypeChanged, "visibleButtonType");
-            m_connections.append(
-                QObject::connect(handy, &VynUIHandyButtonComponent::insertedVisibleComponent,
-                                 [this](ButtonType type, int index, VynUIComponent* inserted) {
-                                     m_names.append(QStringLiteral("inserted %1 %2 %3")
-                                                        .arg(int(type))
-                                                        .arg(index)
-                                                        .arg(inserted->objectName()));
-                                 }));
-            m_connections.append(QObject::connect(
-                handy, &VynUIHandyButtonComponent::removedVisibleComponent,
-                [this](VynUIComponent* removed) {
-                    m_names.append(QStringLiteral("removed %1").arg(removed->objectName()));
-                }));
+            keep(QObject::connect(handy, &VynUIHandyButtonComponent::insertedVisibleComponent,
+                                  [this](ButtonType type, int index, VynUIComponent* inserted) {
+                                      record(QStringLiteral("inserted %1 %2 %3")
+                                                 .arg(int(type))
+                                                 .arg(index)
+                                                 .arg(inserted->objectName()));
+                                  }));
+            keep(QObject::connect(handy, &VynUIHandyButtonComponent::removedVisibleComponent,
+                                  [this](VynUIComponent* removed) {
+                                      record(
+                                          QStringLiteral("removed %1").arg(removed->objectName()));
+                                  }));
         }
         if (auto* label = qobject_cast<VynUILabelComponent*>(c)) {
             watch(label, &VynUILabelComponent::textChanged, "text");
@@ -96,22 +97,6 @@ public:
             watch(combo, &VynUIComboComponent::textChanged, "text");
         }
     }
-    ~Recorder()
-    {
-        for (const auto& c : m_connections)
-            QObject::disconnect(c);
-    }
-    QStringList take() { return std::exchange(m_names, {}); }
-
-private:
-    template <typename T> void watch(T* object, void (T::*signal)(), const char* name)
-    {
-        m_connections.append(QObject::connect(
-            object, signal, [this, name] { m_names.append(QString::fromLatin1(name)); }));
-    }
-
-    QStringList m_names;
-    QList<QMetaObject::Connection> m_connections;
 };
 
 // Counts the lines the logger writes while it lives.
