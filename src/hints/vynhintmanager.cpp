@@ -8,7 +8,10 @@
 
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QRegularExpression>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -225,6 +228,30 @@ void VynHintManager::invalidateHint(VynHintData* p_hintData)
 
 void VynHintManager::invalidateHint(const QString& p_hintIdentifier)
 {
+    // Qt 6.4's QML engine scores a hint object as badly for a VynHintData* parameter as for a
+    // QString one, and so calls this overload with the object's text, "ClassName(0x...)" or
+    // "ClassName(0x..., \"name\")". Such a text is matched against the hints held here (their
+    // addresses only: nothing unknown is dereferenced), so that invalidateHint(hint) from QML
+    // works as it does from C++.
+    static const QRegularExpression objectText(
+        QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*\\(0x([0-9a-fA-F]+)(?:\\)|, )"));
+    const QRegularExpressionMatch match = objectText.match(p_hintIdentifier);
+    if (match.hasMatch()) {
+        bool ok = false;
+        const quintptr address = match.captured(1).toULongLong(&ok, 16);
+        const auto held = [address](const VynHintData* hint) {
+            return reinterpret_cast<quintptr>(hint) == address;
+        };
+        if (ok && m_presentedHint && held(m_presentedHint)) {
+            invalidateHint(m_presentedHint);
+            return;
+        }
+        const auto queued = std::find_if(m_queue.cbegin(), m_queue.cend(), held);
+        if (ok && queued != m_queue.cend()) {
+            invalidateHint(*queued);
+            return;
+        }
+    }
     invalidateHint(getHintWithIdentifier(p_hintIdentifier));
 }
 

@@ -138,6 +138,14 @@ TestCase {
         verify(help.showHint())
         manager.invalidateHintsWithPrefix("help.")
         compare(manager.presentedHint, null)
+        // A hint object picks the object overload: the queued one is dropped, the shown one
+        // dismissed.
+        verify(help.showHint())
+        verify(indicator.showHint())
+        manager.invalidateHint(indicator.hintData)
+        compare(manager.presentedHint.identifier, "help.gain")
+        manager.invalidateHint(help.hintData)
+        compare(manager.presentedHint, null)
         tryCompare(manager, "hintPopover", null)
         // A popover the user closed in the previous test may still be fading out; when it has
         // closed it reports its hint to the manager, which would dismiss an equal hint shown
