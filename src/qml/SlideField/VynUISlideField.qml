@@ -1,6 +1,7 @@
 import QtQuick
 import VynUI 1.2
 
+import "../Private/SlideFieldHints.js" as SlideFieldHints
 import "../Script/StringUtils.js" as StringUtils
 
 // A slide field bound to a device parameter through a VynUISlideFieldComponent; built by a
@@ -18,6 +19,10 @@ import "../Script/StringUtils.js" as StringUtils
 // pressing the panning handle of a mixed selection emits editedWhileMultiple(false) at once,
 // and its release doneEditingWhileMultiple(), whether or not the press panned. The other
 // binding rules are VynUISlider's.
+//
+// Hints. When the component asks for its pan hint (sliding may begin) or its text hint (a typed
+// or stepped value was accepted), the field offers the matching hint, pointing at itself, through
+// its window's hint manager: each at most once per run, with the don't-show-again action.
 VynSlideField11 {
     id: root
 
@@ -127,6 +132,22 @@ VynSlideField11 {
     onLongPressed: function (p_mouse) {
         if (uiComponent)
             uiComponent.longPressed()
+    }
+
+    Connections {
+        target: root.uiComponent
+        function onScheduleSlideFieldPanHint() {
+            SlideFieldHints.offer(VynUIQmlConstants, root, SlideFieldHints.panIdentifier,
+                                  qsTr("Drag to change"),
+                                  qsTr("Drag the handle sideways to change the value: the farther you drag, the faster it changes. Release to send the value."))
+        }
+        function onScheduleSlideFieldTextHint() {
+            SlideFieldHints.offer(VynUIQmlConstants, root, SlideFieldHints.textIdentifier,
+                                  qsTr("Typing a value"),
+                                  root.allowsPanning
+                                  ? qsTr("A typed value is read in the unit shown beside the field. For quick changes, drag the handle at the left of the field.")
+                                  : qsTr("A typed value is read in the unit shown beside the field."))
+        }
     }
 
     Binding {
