@@ -6,7 +6,9 @@ import Gallery
 
 // Hints at work: help buttons that explain the controls of an amplifier channel, a guided
 // tour that queues one hint per control, a hint the user can hide for good (and the button
-// that shows hidden hints again), and a status indicator that explains itself. One
+// that shows hidden hints again), and a status indicator that explains itself. The controls are
+// bound to channel 2 of a simulated amplifier; their first drag and first typed entry offer the
+// slide field's own hints. One
 // VynHintManagerQml serves the window: it shows one hint at a time, the others wait.
 Flickable {
     id: page
@@ -21,15 +23,27 @@ Flickable {
         vynStyle: GalleryTheme.vynStyle
     }
 
-    // A control of the channel with its name and the "?" that explains it.
+    // Channel 2 of a simulated amplifier: its edits go to the device and come back.
+    VynSimulatedAmplifier {
+        id: amplifier
+    }
+
+    Component.onCompleted: {
+        amplifier.attachToWindowOf(page)
+        // A first visit greets the user with a hint they can hide for good.
+        hintManager.scheduleHint("gallery.hints.welcome", tourButton, qsTr("Hints"),
+                                 qsTr("The \"?\" beside a control explains it. Start the tour for a walk through the channel."),
+                                 true, 0)
+    }
+
+    // A control of the channel with its name, its value and the "?" that explains it.
     component ChannelRow: RowLayout {
         id: row
         required property string name
-        required property string unit
         required property string hintIdentifier
         required property string hintString
         property bool hideable: false
-        property alias field: field
+        default property alias control: controlSlot.data
         spacing: 12
 
         VynLabel {
@@ -37,11 +51,10 @@ Flickable {
             text: row.name
             vynStyle: GalleryTheme.vynStyle
         }
-        VynSlideField11 {
-            id: field
-            Layout.preferredWidth: 140
-            vynStyle: GalleryTheme.vynStyle
-            unitModel: [row.unit]
+        Item {
+            id: controlSlot
+            Layout.preferredWidth: 220
+            implicitHeight: childrenRect.height
         }
         VynHelpButton {
             objectName: row.hintIdentifier
@@ -64,7 +77,7 @@ Flickable {
         spacing: 18
 
         VynLabel {
-            text: qsTr("Channel A")
+            text: qsTr("%1, channel 2").arg(amplifier.name)
             vynStyle: GalleryTheme.vynStyle
             fontFamily: VynFonts.vynFamilyBold
             font.weight: VynFonts.vynWeightBold
@@ -75,26 +88,53 @@ Flickable {
             id: gainRow
             Layout.fillWidth: true
             name: qsTr("Gain")
-            unit: "dB"
             hintIdentifier: "gallery.gain"
-            hintString: qsTr("Sets the level of the channel before the limiter. Drag the field sideways, or type a value.")
+            hintString: qsTr("Sets the level of the channel before the limiter. Drag the thumb, or click the track to step.")
+
+            VynUISlider {
+                id: gainSlider
+                width: 150
+                vynStyle: GalleryTheme.vynStyle
+                uiSliderComponent: amplifier.component(2, "Gain")
+            }
+            VynLabel {
+                x: 160
+                width: 60
+                anchors.verticalCenter: gainSlider.verticalCenter
+                horizontalAlignment: Text.AlignRight
+                vynStyle: GalleryTheme.vynStyle
+                text: gainSlider.uiSliderComponent ? gainSlider.uiSliderComponent.stringValue : ""
+            }
         }
         ChannelRow {
             id: delayRow
             Layout.fillWidth: true
             name: qsTr("Delay")
-            unit: "ms"
             hintIdentifier: "gallery.delay"
             hintString: qsTr("Aligns this loudspeaker with the main system. 1 ms is about 34 cm of air.")
+
+            VynUISlideField {
+                id: delayField
+                width: 220
+                vynStyle: GalleryTheme.vynStyle
+                allowsPanning: true
+                uiSlideFieldComponent: amplifier.component(2, "Delay")
+            }
         }
         ChannelRow {
-            id: limiterRow
+            id: frequencyRow
             Layout.fillWidth: true
-            name: qsTr("Limiter")
-            unit: "dBu"
-            hintIdentifier: "gallery.limiter"
-            hintString: qsTr("Keeps the output below this level. This hint offers \"Don't show again\".")
+            name: qsTr("High-pass")
+            hintIdentifier: "gallery.highpass"
+            hintString: qsTr("Removes the frequencies below this corner before they reach the loudspeaker. This hint offers \"Don't show again\".")
             hideable: true
+
+            VynUISlideField {
+                width: 220
+                vynStyle: GalleryTheme.vynStyle
+                allowsPanning: true
+                uiSlideFieldComponent: amplifier.component(2, "Frequency")
+            }
         }
 
         RowLayout {
@@ -128,11 +168,12 @@ Flickable {
             spacing: 12
 
             Button {
+                id: tourButton
                 text: qsTr("Start the tour")
                 onClicked: {
-                    hintManager.scheduleHint("gallery.tour.gain", gainRow.field, qsTr("1 of 3: Gain"),
+                    hintManager.scheduleHint("gallery.tour.gain", gainSlider, qsTr("1 of 3: Gain"),
                                              qsTr("Start here: set the gain so that the meters peak around -6 dB."), false, 0)
-                    hintManager.scheduleHint("gallery.tour.delay", delayRow.field, qsTr("2 of 3: Delay"),
+                    hintManager.scheduleHint("gallery.tour.delay", delayField, qsTr("2 of 3: Delay"),
                                              qsTr("Then time-align the fill loudspeakers with the main system."), false, 0)
                     hintManager.scheduleHint("gallery.tour.status", status, qsTr("3 of 3: Status"),
                                              qsTr("Keep an eye on the status: click it for details."), false, 0)

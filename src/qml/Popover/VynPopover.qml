@@ -49,7 +49,9 @@ Popup {
     property real __arrowX: width / 2
 
     contentWidth: preferredWidth
-    implicitHeight: Math.max(minHeight, contentHeight) + topPadding + bottomPadding
+    // The arrow's room is counted once whichever edge carries it, so that placing the popover
+    // (which picks the edge) never changes its height.
+    implicitHeight: Math.max(minHeight, contentHeight) + 2 * padding + arrowSize
     padding: VynUIQmlConstants.marginPopover(vynControlSize, vynPixelRatio)
     topPadding: padding + (__arrowEdge === VynPopover.ArrowTop ? arrowSize : 0)
     bottomPadding: padding + (__arrowEdge === VynPopover.ArrowBottom ? arrowSize : 0)
