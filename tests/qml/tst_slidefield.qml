@@ -236,6 +236,47 @@ TestCase {
 
     // The default acceptAction sets the value from the text, clamped, without offering it and
     // without asking, whatever the security type says.
+    // --- Keyboard --------------------------------------------------------------------------
+
+    function test_keySteps_data() {
+        return [
+            { tag: "up", key: Qt.Key_Up, expected: 11 },
+            { tag: "down", key: Qt.Key_Down, expected: 9 },
+            { tag: "page up", key: Qt.Key_PageUp, expected: 20 },
+            { tag: "page down", key: Qt.Key_PageDown, expected: 0 },
+            { tag: "up, reversed", key: Qt.Key_Up, props: { "isReverse": true }, expected: 9 },
+            { tag: "page up, reversed", key: Qt.Key_PageUp, props: { "isReverse": true }, expected: 0 },
+            { tag: "up at the end", key: Qt.Key_Up, props: { "value": 1000 }, expected: 1000, offers: 0 }
+        ]
+    }
+    function test_keySteps(data) {
+        const field = makeField(Object.assign({ "value": 10, "stepSize": 1 }, data.props || {}))
+        field.forceActiveFocus()
+        keyClick("5") // a half-typed entry, dropped by the step
+        keyClick(data.key)
+        compare(field.value, data.expected)
+        compare(field.offers.length, data.offers === undefined ? 1 : data.offers)
+        verify(field.offers.every(o => o.isFinal))
+        verify(field.activeFocus)
+        compare(field.text, String(data.expected))
+        tryCompare(field, "endedCount", 1)
+    }
+
+    function test_keyStepsIgnoredWhenNotAllowed_data() {
+        return [
+            { tag: "disabled security", props: { "securityType": VynCommonConstants.VynSecurityTypeDisable } },
+            { tag: "host refuses sliding", props: { "shouldBeginSliding": function () { return false } } }
+        ]
+    }
+    function test_keyStepsIgnoredWhenNotAllowed(data) {
+        const field = makeField(Object.assign({ "value": 10 }, data.props))
+        field.forceActiveFocus()
+        keyClick(Qt.Key_Up)
+        keyClick(Qt.Key_PageDown)
+        compare(field.value, 10)
+        compare(field.offers.length, 0)
+    }
+
     function test_typedEntry_data() {
         const alert = VynCommonConstants.VynSecurityTypeShouldAlert
         return [

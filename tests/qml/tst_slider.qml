@@ -401,6 +401,95 @@ TestCase {
 
     // Only a live slider follows the pointer. A slider that is not live neither drags nor
     // cancels a track press when the pointer moves; the press still ends on release.
+    // --- Keyboard --------------------------------------------------------------------------
+
+    // Range 0..1 from 0.5 unless the row says otherwise; no step means a tenth of the range.
+    function test_keys_data() {
+        return [
+            { tag: "right", key: Qt.Key_Right, expected: 0.6 },
+            { tag: "left", key: Qt.Key_Left, expected: 0.4 },
+            { tag: "up", key: Qt.Key_Up, expected: 0.6 },
+            { tag: "down", key: Qt.Key_Down, expected: 0.4 },
+            { tag: "shift right", key: Qt.Key_Right, modifiers: Qt.ShiftModifier, expected: 1 },
+            { tag: "control right", key: Qt.Key_Right, modifiers: Qt.ControlModifier, expected: 0.52 },
+            { tag: "right, stepped", key: Qt.Key_Right, props: { "stepSize": 0.05 }, expected: 0.55 },
+            { tag: "control right, stepped: one step stays one step", key: Qt.Key_Right,
+              modifiers: Qt.ControlModifier, props: { "stepSize": 0.05 }, expected: 0.55 },
+            { tag: "page up, stepped", key: Qt.Key_PageUp, props: { "stepSize": 0.01 }, expected: 0.6 },
+            { tag: "page down, coarse step", key: Qt.Key_PageDown, props: { "stepSize": 0.25 }, expected: 0.25 },
+            { tag: "home", key: Qt.Key_Home, expected: 0 },
+            { tag: "end", key: Qt.Key_End, expected: 1 },
+            { tag: "end of a reversed range", key: Qt.Key_End, props: { "from": 10, "to": -10, "value": 0 }, expected: -10 },
+            { tag: "right on a mirrored slider", key: Qt.Key_Right, props: { "mirror": true }, expected: 0.4 },
+            { tag: "right on a reversed slider", key: Qt.Key_Right, props: { "reverse": true }, expected: 0.4 },
+            { tag: "up on a mirrored vertical slider", key: Qt.Key_Up,
+              props: { "orientation": Qt.Vertical, "mirror": true, "width": 20, "height": 210 }, expected: 0.4 },
+            { tag: "clamped at the end", key: Qt.Key_Right, props: { "value": 0.95 }, expected: 1 }
+        ]
+    }
+    function test_keys(data) {
+        const props = Object.assign({ "value": 0.5 }, data.props || {})
+        const slider = makeSlider(props)
+        slider.forceActiveFocus()
+        verify(slider.activeFocus)
+        keyClick(data.key, data.modifiers === undefined ? Qt.NoModifier : data.modifiers)
+        fuzzyCompare(slider.value, data.expected, 1e-9)
+        compare(slider.offers.length, 1)
+        verify(slider.offers[0].isFinal)
+        compare(slider.beganCount, 1)
+        // A burst of keys ends once, after the debounce.
+        keyClick(data.key, data.modifiers === undefined ? Qt.NoModifier : data.modifiers)
+        compare(slider.endedCount, 0)
+        tryCompare(slider, "endedCount", 1)
+    }
+
+    function test_tabFocusAndRing() {
+        const first = makeSlider({ "y": 20 })
+        const second = makeSlider({ "y": 60 })
+        first.forceActiveFocus()
+        const thumb = findChild(second, "thumb")
+        const idleBorder = thumb.border.width
+        keyClick(Qt.Key_Tab)
+        verify(second.activeFocus)
+        verify(thumb.border.width > idleBorder)
+        compare(second.Accessible.role, Accessible.Slider)
+    }
+
+    function test_keysIgnoredWhenNotAllowed_data() {
+        return [
+            { tag: "disabled security", props: { "securityType": VynCommonConstants.VynSecurityTypeDisable } },
+            { tag: "host refuses sliding", props: { "shouldBeginSliding": function () { return false } } },
+            { tag: "value not known", props: { "value": NaN } }
+        ]
+    }
+    function test_keysIgnoredWhenNotAllowed(data) {
+        const slider = makeSlider(data.props)
+        slider.forceActiveFocus()
+        keyClick(Qt.Key_Right)
+        keyClick(Qt.Key_End)
+        compare(slider.offers.length, 0)
+        compare(slider.beganCount, 0)
+    }
+
+    function test_keysOnShouldAlertAsk_data() {
+        return [
+            { tag: "confirmed", response: QApplicationMessage.Response_Confirm, expected: 0.35 },
+            { tag: "refused", response: QApplicationMessage.Response_Cancel, expected: 0.25 }
+        ]
+    }
+    function test_keysOnShouldAlertAsk(data) {
+        const model = createTemporaryObject(modelComponent, testCase)
+        const slider = makeSlider({ "uiSliderComponent": model,
+                                    "securityType": VynCommonConstants.VynSecurityTypeShouldAlert })
+        slider.setValue(0.25)
+        verify(testHost.attachWindowController(slider))
+        testHost.installAnsweringPresenter(data.response)
+        slider.forceActiveFocus()
+        keyClick(Qt.Key_Right)
+        compare(testHost.presentedCount, 1)
+        fuzzyCompare(slider.value, data.expected, 1e-9)
+    }
+
     function test_liveGatesMoves_data() {
         return [
             { tag: "live, thumb dragged", live: true, onThumb: true, dragged: true, expected: 0.75, offers: 4 },

@@ -256,3 +256,47 @@ function wheel(s, p_angleDelta, p_modifiers) {
     endSlidingDebounced(s)
     return true
 }
+
+// A key pressed on the focused slider; true when the key is the slider's (even when the step
+// was refused). See VynSlider12.qml for the keys.
+function keyStep(s, p_key, p_modifiers) {
+    let target
+    switch (p_key) {
+    case Qt.Key_Right:
+    case Qt.Key_Up:
+        target = s.incrementedValue(1, p_modifiers)
+        break
+    case Qt.Key_Left:
+    case Qt.Key_Down:
+        target = s.incrementedValue(-1, p_modifiers)
+        break
+    case Qt.Key_PageUp:
+    case Qt.Key_PageDown: {
+        const page = s.stepSize > 0 ? Math.max(1, Math.round(s.valueRange / 10 / s.stepSize)) : 1
+        target = s.incrementedValue(p_key === Qt.Key_PageUp ? page : -page, Qt.NoModifier)
+        break
+    }
+    case Qt.Key_Home:
+        target = s.from
+        break
+    case Qt.Key_End:
+        target = s.to
+        break
+    default:
+        return false
+    }
+    if (!s.enabled || s.dragging || securityIs(s, VynUI.VynCommonConstants.VynSecurityTypeDisable)
+            || !(s.value === s.value) || !s.shouldBeginSliding.call(s))
+        return true
+    const step = function () {
+        s.incrementing = true
+        s.startValue = s.value
+        s.sliderBeganSliding.call(s)
+        offerFinal(s, s._clamped(target))
+        s.incrementing = false
+        s.gestureAccepted = true
+        endSlidingDebounced(s)
+    }
+    confirmThen(s, step, function () {})
+    return true
+}

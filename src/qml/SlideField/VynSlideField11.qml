@@ -45,6 +45,10 @@ import "../Script/ComponentUtils.js" as ComponentUtils
 // Ending. A pan ends with slideFieldEndedSliding() at once. Clicks on minus and plus (and
 // long presses) end through a 600 ms debounce: a burst of clicks makes one end call, 600 ms
 // after the last click, so the host records a single undo step.
+//
+// Keyboard. The field takes focus with Tab, for typing (its frame shows the focus). Up and
+// Down step like plus and minus (whether or not those buttons are shown), Page Up and Page
+// Down ten steps; each burst ends once, through the same debounce.
 VynTextField {
     id: root
 
@@ -388,6 +392,45 @@ VynTextField {
 
     onMinusClicked: minusAction.call(root)
     onPlusClicked: plusAction.call(root)
+
+    // --- Keyboard ---
+    // Up and Down are the plus and minus steps, Page Up and Page Down ten steps at once; the
+    // field keeps the focus and shows the stepped value (a half-typed entry is dropped).
+    Keys.onPressed: function (event) {
+        const key = event.key
+        if (key !== Qt.Key_Up && key !== Qt.Key_Down && key !== Qt.Key_PageUp && key !== Qt.Key_PageDown)
+            return
+        event.accepted = true
+        root._keyStep(key === Qt.Key_Up || key === Qt.Key_PageUp,
+                      key === Qt.Key_PageUp || key === Qt.Key_PageDown)
+    }
+    function _keyStep(p_up, p_page) {
+        if (securityType === VynCommonConstants.VynSecurityTypeDisable || isLongPressed || panning
+                || !(value === value) || !shouldBeginSliding.call(root))
+            return
+        incrementing = true
+        startValue = value
+        slideFieldBeganSliding.call(root)
+        if (p_page)
+            _offerStep((p_up !== isReverse ? 10 : -10) * stepSize)
+        else if (p_up)
+            plusClicked()
+        else
+            minusClicked()
+        incrementing = false
+        gestureAccepted = true
+        _endSlidingDebounced()
+        fullText = Qt.binding(() => root.defaultText)
+        if (editing) {
+            text = fullText
+            selectAll()
+        }
+    }
+
+    // Assistive tools read the field's name, its value and unit.
+    property string accessibleName: title
+    Accessible.name: accessibleName
+    Accessible.description: mixed ? qsTr("Multiple values") : (unitText.length > 0 ? fullText + " " + unitText : fullText)
 
     // --- Geometry ---
     readonly property real _fieldHeight: vynMetrics.textFieldHeight

@@ -46,6 +46,14 @@ import "../Private/SliderGestures.js" as SliderGestures
 // clicks and wheel steps are not gestures with a release: their values are offered as final
 // through sliderExpectsValue, where the host decides. A drag ends with sliderEndedSliding()
 // at once; clicks and wheel steps through a 600 ms debounce, one call per burst.
+//
+// Keyboard. The slider takes focus with Tab (its thumb then wears the focus ring). The arrow
+// keys move the thumb one increment the way they point (Right and Up towards the end of the
+// axis, whatever `mirror` and `reverse` say), Page Up and Page Down a tenth of the range
+// (at least one step), Home and End go to `from` and `to`; Control and Shift divide and
+// multiply an increment as for the wheel. Each key is a step like a wheel notch (offered as
+// final, one end call per burst), except on a should-alert slider, where each asks first.
+// `accessibleName` names the slider for assistive tools, which can also step it.
 VynItem {
     id: root
 
@@ -140,6 +148,10 @@ VynItem {
     // Moves the value by p_count increments (stepSize, or a tenth of the range), with the
     // modifiers held, and offers it as final.
     function increment(p_count, p_modifiers = Qt.NoModifier) {
+        SliderGestures.offerFinal(root, incrementedValue(p_count, p_modifiers))
+    }
+    // The value p_count increments away (see increment()), clamped to the range.
+    function incrementedValue(p_count, p_modifiers = Qt.NoModifier) {
         let count = p_count
         if ((p_modifiers & Qt.ControlModifier) && (stepSize <= 0 || Math.abs(p_count) > 1))
             count /= vynMetrics.sliderWheelMinimizeFactor
@@ -148,7 +160,7 @@ VynItem {
         let delta = stepSize > 0 ? count * stepSize : count * valueRange / 10
         if (mirror !== reverse)
             delta = -delta
-        SliderGestures.offerFinal(root, _clamped(value + delta))
+        return _clamped(value + delta)
     }
 
     // The position of a value along the axis (in axis coordinates, see above).
@@ -188,6 +200,18 @@ VynItem {
         if (!vertical)
             return height / 2
         return mirror ? p_axis : height - p_axis
+    }
+
+    // --- Keyboard and accessibility ---
+    property string accessibleName: uiSliderComponent ? uiSliderComponent.name : ""
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Slider
+    Accessible.name: accessibleName
+    Accessible.description: mixed ? qsTr("Multiple values") : _valueKnown ? String(value) : ""
+    Accessible.onIncreaseAction: SliderGestures.keyStep(root, root.mirror !== root.reverse ? Qt.Key_Down : Qt.Key_Up, Qt.NoModifier)
+    Accessible.onDecreaseAction: SliderGestures.keyStep(root, root.mirror !== root.reverse ? Qt.Key_Up : Qt.Key_Down, Qt.NoModifier)
+    Keys.onPressed: function (event) {
+        event.accepted = SliderGestures.keyStep(root, event.key, event.modifiers)
     }
 
     implicitWidth: vertical ? _thumbCross : 10 * _thumbCross
@@ -268,8 +292,9 @@ VynItem {
         x: Math.round(centreX - width / 2)
         y: Math.round(centreY - height / 2)
         radius: Math.min(width, height) * root.vynMetrics.sliderThumbCornerRadiusRatio
-        border.width: Math.max(1, root.vynMetrics.sliderThumbBorder)
-        border.color: (root.pressed ? root.vynMetrics.controlBorderColorOn : root.vynMetrics.controlBorderColor)
+        // Focused, the thumb's frame doubles in the accent colour: the focus ring.
+        border.width: Math.max(1, root.vynMetrics.sliderThumbBorder) * (root.activeFocus ? 2 : 1)
+        border.color: (root.pressed || root.activeFocus ? root.vynMetrics.controlBorderColorOn : root.vynMetrics.controlBorderColor)
         // Shared gradients: mixed, pressed, or off in the look's style.
         gradient: root.vertical
                   ? (root.mixed ? VynGradients.mixedHorizontal

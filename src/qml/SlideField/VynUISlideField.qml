@@ -34,6 +34,7 @@ VynSlideField11 {
     property bool _slidingBegun: false
 
     uiSlideFieldComponent: ownComponent
+    accessibleName: title.length > 0 ? title : (uiComponent ? uiComponent.name : "")
     from: uiComponent ? uiComponent.minValue : 0
     to: uiComponent ? uiComponent.maxValue : 1000
     defaultValue: uiComponent ? uiComponent.initValue : 0
