@@ -88,6 +88,26 @@ TestCase {
         compare(label.font.family, VynFonts.vynFamilyRegular)
     }
 
+    // A label draws a background only once it has a colour or a frame to show, also when it
+    // is given one at creation.
+    function test_labelBackgroundOnDemand_data() {
+        return [
+            { tag: "plain", props: {}, background: false },
+            { tag: "colour at creation", props: { "vynBkgdColor": "red" }, background: true },
+            { tag: "frame at creation", props: { "vynBorderColor": "blue" }, background: true },
+            { tag: "transparent colour", props: { "vynBkgdColor": "#00ff0000" }, background: false }
+        ]
+    }
+    function test_labelBackgroundOnDemand(data) {
+        const label = createTemporaryObject(labelComponent, testCase, data.props)
+        compare(label.background !== null, data.background)
+        if (data.background)
+            compare(label.background.color, label.vynBkgdColor)
+        label.vynBkgdColor = "green"
+        verify(label.background !== null)
+        compare(label.background.color, Qt.color("green"))
+    }
+
     // --- Base item -----------------------------------------------------------------------
 
     Component {

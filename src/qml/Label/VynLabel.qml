@@ -32,9 +32,19 @@ Label {
     color: level <= 0 ? vynMetrics.labelColor : level === 1 ? vynMetrics.labelColorSecondary
                                                             : vynMetrics.labelColorTertiary
 
-    background: Rectangle {
-        color: root.vynBkgdColor
-        border.color: root.vynBorderColor
-        radius: root.vynMetrics.flatButtonCornerRadius
+    // The background is made the first time it has something to show (a colour or a frame that
+    // is not transparent): most labels never draw one.
+    onVynBkgdColorChanged: _makeBackground()
+    onVynBorderColorChanged: _makeBackground()
+    function _makeBackground() {
+        if (root.background === null && (root.vynBkgdColor.a > 0 || root.vynBorderColor.a > 0))
+            root.background = root._backgroundComponent.createObject(root)
+    }
+    readonly property Component _backgroundComponent: Component {
+        Rectangle {
+            color: root.vynBkgdColor
+            border.color: root.vynBorderColor
+            radius: root.vynMetrics.flatButtonCornerRadius
+        }
     }
 }
