@@ -106,4 +106,37 @@ TestCase {
         keyClick(Qt.Key_Return)
         compare(field.value, 2)
     }
+
+    // A table from a device that has not answered for every row: a row whose values are not
+    // numbers shows nothing and is never selected, by the wheel or by typing.
+    readonly property var partlyKnownTable: [{ "display": 100, "device": 1 }, { "display": NaN, "device": NaN },
+        { "display": 1000, "device": 3 }, { "display": 2000, "device": NaN }, { "display": Infinity, "device": 5 }]
+
+    function test_rowsThatAreNotNumbers_data() {
+        return [
+            { tag: "unknown row shows nothing", value: 1, gesture: "none", text: "", index: 1 },
+            { tag: "infinite row", value: 4, gesture: "none", text: "\u221E", index: 4 },
+            { tag: "wheel onto an unknown row", value: 0, gesture: "wheel up", text: "100.0 Hz", index: 0, warned: true },
+            { tag: "wheel onto an unknown device value", value: 2, gesture: "wheel up", text: "1000.0 Hz", index: 2, warned: true },
+            { tag: "typing skips unknown rows", value: 0, gesture: "type", typed: "1900", text: "1000.0 Hz", index: 2 }
+        ]
+    }
+    function test_rowsThatAreNotNumbers(data) {
+        const field = makeField({ "model": testCase.partlyKnownTable, "value": data.value })
+        if (data.warned)
+            ignoreWarning(/VynSlideField: refused row \d+, its device value is not a number/)
+        if (data.gesture === "wheel up") {
+            mouseWheel(field, 50, field.height / 2, 0, 120)
+        } else if (data.gesture === "type") {
+            field.forceActiveFocus()
+            keySequence(StandardKey.SelectAll)
+            for (let i = 0; i < data.typed.length; ++i)
+                keyClick(data.typed[i])
+            keyClick(Qt.Key_Return)
+        }
+        compare(field.value, data.index)
+        compare(field.text, data.text)
+        verify(!field.text.includes("NaN"))
+        verify(field.deviceValues.every(v => !isNaN(v)))
+    }
 }

@@ -19,6 +19,10 @@ import VynUI 1.2
 // display value with `precision` decimals, "\u221E" for the last row when
 // `enableInfiniteAtLast`, and with `showK` divided by 1000 with a "k" before `unit`.
 //
+// Rows that are not numbers: a row whose display value is NaN shows no text, and a row whose
+// display or device value is NaN is never selected by typing, dragging or the wheel (one
+// warning each time a gesture reaches it; the index stays where it was).
+//
 // Signals: notifyDeviceValueChanged(devValue) on every index change made by the user,
 // notifyEditingStarted() and notifyEditingEnded() around each gesture.
 VynTextField {
@@ -61,6 +65,11 @@ VynTextField {
         if (enableInfiniteAtLast && p_index === rowCount - 1)
             return "\u221E"
         const shown = displayValueAt(p_index)
+        // A row whose value is not known (NaN) shows nothing; an infinite one its sign and "\u221E".
+        if (isNaN(shown))
+            return ""
+        if (!isFinite(shown))
+            return shown > 0 ? "\u221E" : "-\u221E"
         const number = showK ? (shown / 1000).toFixed(precision) : shown.toFixed(precision)
         const suffix = (showK ? "k" : "") + unit
         return suffix.length > 0 ? number + " " + suffix : number
@@ -72,6 +81,8 @@ VynTextField {
         let low = Infinity, high = -Infinity, best = -1, bestDistance = Infinity
         for (let i = minValue; i <= maxValue; ++i) {
             const d = displayValueAt(i)
+            if (isNaN(d) || isNaN(deviceValueAt(i)))
+                continue
             low = Math.min(low, d)
             high = Math.max(high, d)
             if (Math.abs(d - p_display) < bestDistance) {
@@ -93,6 +104,11 @@ VynTextField {
         const index = Math.max(minValue, Math.min(maxValue, p_index))
         if (index === value)
             return
+        // A row whose device value is not a number cannot be sent: it is never selected.
+        if (isNaN(deviceValueAt(index))) {
+            console.warn("VynSlideField: refused row " + index + ", its device value is not a number")
+            return
+        }
         value = index
         notifyDeviceValueChanged(deviceValueAt(index))
     }
