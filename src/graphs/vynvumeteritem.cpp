@@ -4,6 +4,8 @@
 #include "vynvumeterconstants.h"
 #include "vynvumetermanager.h"
 
+#include <QHash>
+#include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace {
 
@@ -51,6 +54,80 @@ struct Frame
     double glowRadius = 0;
 };
 
+// Pictures shared by every meter of the same look: antialiased rounded shapes are the dear
+// part of a meter's painting, and a wall of meters has few distinct sizes and colours.
+QImage& cachedImage(const QString& key, const std::function<void(QImage&)>& paint,
+                    const QSizeF& size, qreal dpr)
+{
+    static QHash<QString, QImage> cache;
+    auto found = cache.find(key);
+    if (found != cache.end())
+        return *found;
+    // A host animating sizes would grow the cache without end: start again past a bound.
+    if (cache.size() > 256)
+        cache.clear();
+    QImage image(QSize(int(std::ceil(size.width() * dpr)), int(std::ceil(size.height() * dpr))),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(dpr);
+    image.fill(Qt::transparent);
+    paint(image);
+    return *cache.insert(key, image);
+}
+
+const QImage& bodyImage(const Frame& frame, qreal dpr)
+{
+    const QString key = QStringLiteral("body %1 %2 %3 %4 %5 %6 %7")
+                            .arg(frame.bounds.width())
+                            .arg(frame.bounds.height())
+                            .arg(frame.radius)
+                            .arg(frame.border)
+                            .arg(frame.fill.rgba())
+                            .arg(frame.borderColor.rgba())
+                            .arg(dpr);
+    return cachedImage(
+        key,
+        [&](QImage& image) {
+            QPainter painter(&image);
+            painter.setRenderHint(QPainter::Antialiasing, true);
+            const double half = frame.border / 2;
+            painter.setPen(frame.border > 0 ? QPen(frame.borderColor, frame.border)
+                                            : QPen(Qt::NoPen));
+            painter.setBrush(frame.fill);
+            painter.drawRoundedRect(frame.bounds.adjusted(half, half, -half, -half), frame.radius,
+                                    frame.radius);
+        },
+        frame.bounds.size(), dpr);
+}
+
+const QImage& glowImage(const QSizeF& cell, double radius, const QColor& color, qreal dpr)
+{
+    const QString key = QStringLiteral("glow %1 %2 %3 %4 %5")
+                            .arg(cell.width())
+                            .arg(cell.height())
+                            .arg(radius)
+                            .arg(color.rgba())
+                            .arg(dpr);
+    const QSizeF size(cell.width() + 2 * radius, cell.height() + 2 * radius);
+    return cachedImage(
+        key,
+        [&](QImage& image) {
+            QPainter painter(&image);
+            painter.setRenderHint(QPainter::Antialiasing, true);
+            painter.setPen(Qt::NoPen);
+            // A few rings fading out around the cell.
+            constexpr int rings = 3;
+            QColor ring = color;
+            ring.setAlphaF(0.22f);
+            painter.setBrush(ring);
+            const QRectF rect(radius, radius, cell.width(), cell.height());
+            for (int i = rings; i >= 1; --i) {
+                const double grow = radius * i / rings;
+                painter.drawRoundedRect(rect.adjusted(-grow, -grow, grow, grow), grow, grow);
+            }
+        },
+        size, dpr);
+}
+
 // The meter drawn with QPainter by the software renderer.
 class PainterMeterNode : public QSGRenderNode
 {
@@ -75,30 +152,21 @@ public:
         if (!painter)
             return;
         painter->save();
-        painter->setTransform(matrix()->toTransform());
-        painter->setOpacity(inheritedOpacity());
+        // The clip region is in window coordinates: set it before the item's transform.
         const QRegion* clip = state->clipRegion();
         if (clip && !clip->isEmpty())
             painter->setClipRegion(*clip, Qt::ReplaceClip);
+        painter->setTransform(matrix()->toTransform());
+        painter->setOpacity(inheritedOpacity());
 
-        painter->setRenderHint(QPainter::Antialiasing, true);
-        // Glows lie under the body: a few rings fading out around the hold cell.
+        const qreal dpr = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        // Glows lie under the body.
         for (const Frame::Glow& glow : std::as_const(frame.glows)) {
-            constexpr int rings = 3;
-            QColor color = glow.color;
-            painter->setPen(Qt::NoPen);
-            for (int i = rings; i >= 1; --i) {
-                const double grow = frame.glowRadius * i / rings;
-                color.setAlphaF(0.22f);
-                painter->setBrush(color);
-                painter->drawRoundedRect(glow.rect.adjusted(-grow, -grow, grow, grow), grow, grow);
-            }
+            const double r = frame.glowRadius;
+            painter->drawImage(glow.rect.adjusted(-r, -r, r, r),
+                               glowImage(glow.rect.size(), r, glow.color, dpr));
         }
-        const double half = frame.border / 2;
-        painter->setPen(frame.border > 0 ? QPen(frame.borderColor, frame.border) : QPen(Qt::NoPen));
-        painter->setBrush(frame.fill);
-        painter->drawRoundedRect(frame.bounds.adjusted(half, half, -half, -half), frame.radius,
-                                 frame.radius);
+        painter->drawImage(frame.bounds, bodyImage(frame, dpr));
         painter->setRenderHint(QPainter::Antialiasing, false);
         for (qsizetype i = 0; i < frame.cells.size(); ++i)
             painter->fillRect(frame.cells.at(i), frame.colors.at(i));

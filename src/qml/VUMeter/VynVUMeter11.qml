@@ -16,10 +16,11 @@ import VynUI 1.2
 VynVUMeterItem {
     id: root
 
-    implicitWidth: isHorizontal ? 160 : VynUIQmlConstants.vuMeterWidth(vynControlSize,
-                                                                       vynPixelRatio)
-    implicitHeight: isHorizontal ? VynUIQmlConstants.vuMeterWidth(vynControlSize, vynPixelRatio)
-                                 : 160
+    // By autoHorizontal, not isHorizontal: the latter follows the size these give.
+    implicitWidth: autoHorizontal ? 160 : VynUIQmlConstants.vuMeterWidth(vynControlSize,
+                                                                         vynPixelRatio)
+    implicitHeight: autoHorizontal ? VynUIQmlConstants.vuMeterWidth(vynControlSize, vynPixelRatio)
+                                   : 160
     activeFocusOnTab: true
 
     Accessible.role: Accessible.Button
