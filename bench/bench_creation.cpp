@@ -74,6 +74,8 @@ const Pair kPairs[] = {
      " Label { text: \"It is removed from every amplifier.\" } }"},
     {"VynHelpButton / RoundButton", "VynHelpButton { hintIdentifier: \"a\"; hintString: \"b\" }",
      "RoundButton { text: \"?\" }"},
+    {"VynVUMeter11 / ProgressBar", "VynVUMeter11 { width: 12; height: 160 }",
+     "ProgressBar { width: 160; value: 0.5 }"},
 };
 
 double median(std::vector<double> values)

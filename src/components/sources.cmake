@@ -12,4 +12,5 @@ list(APPEND VYNUI_SOURCES
     components/vynuilabelcomponent.h components/vynuilabelcomponent.cpp
     components/vynuicablabelcomponent.h components/vynuicablabelcomponent.cpp
     components/vynuicombocomponent.h components/vynuicombocomponent.cpp
+    components/vynuivumetercomponent.h components/vynuivumetercomponent.cpp
 )

@@ -1,3 +1,5 @@
 list(APPEND VYNUI_SOURCES
     graphs/vynvumeterconstants.h graphs/vynvumeterconstants.cpp
+    graphs/vynvumetermanager.h graphs/vynvumetermanager.cpp
+    graphs/vynvumeteritem.h graphs/vynvumeteritem.cpp
 )
