@@ -12,4 +12,6 @@ list(APPEND VYNUI_SOURCES
     components/vynuilabelcomponent.h components/vynuilabelcomponent.cpp
     components/vynuicablabelcomponent.h components/vynuicablabelcomponent.cpp
     components/vynuicombocomponent.h components/vynuicombocomponent.cpp
+    components/vynuieqthumbnailcomponent.h components/vynuieqthumbnailcomponent.cpp
+    components/vynuidynthumbnailcomponent.h components/vynuidynthumbnailcomponent.cpp
 )

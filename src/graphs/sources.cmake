@@ -1,3 +1,6 @@
 list(APPEND VYNUI_SOURCES
     graphs/vynvumeterconstants.h graphs/vynvumeterconstants.cpp
+    graphs/vyndyngraphdata.h graphs/vyndyngraphdata.cpp
+    graphs/vyneqcurvemodel.h graphs/vyneqcurvemodel.cpp
+    graphs/vyneqhosttypes.h
 )
