@@ -120,8 +120,7 @@ VynItem {
                 y: root.insetTop
                 width: 1
                 height: root.height - root.insetTop - root.insetBottom
-                color: xLabel.modelData.position === 1000 ? VynUIQmlConstants.eqGraphAxisMainColorForStyle(root.vynStyle)
-                                                          : VynUIQmlConstants.eqGraphAxisSecondaryColorForStyle(root.vynStyle)
+                color: VynUIQmlConstants.eqGraphAxisSecondaryColorForStyle(root.vynStyle)
             }
             Text {
                 x: xLabel.xPosition - width / 2
