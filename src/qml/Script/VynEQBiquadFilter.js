@@ -332,15 +332,36 @@ function vynEQBiquadResponse(coefs, freq) {
 
 // Multiplies the band's magnitudes into `magnitudes` and adds its phases to `phases`, in place,
 // over the first `count` frequencies. Either array may be the number -1 to leave it out.
+// The arithmetic is vynEQBiquadResponse()'s, written out so that no pair is allocated per
+// point and no phase is computed when none is asked for.
 function vynEQAddBiquadResponses(coefs, magnitudes, phases, normalizedFrequencies, count) {
     const withMagnitudes = magnitudes !== -1
     const withPhases = phases !== -1
+    const b0 = coefs.b0
+    const b1 = coefs.b1
+    const b2 = coefs.b2
+    const a1 = coefs.a1
+    const a2 = coefs.a2
     for (let i = 0; i < count; ++i) {
-        const response = vynEQBiquadResponse(coefs, normalizedFrequencies[i])
+        const w = Math.PI * normalizedFrequencies[i]
+        const cw = Math.cos(w)
+        const c2w = Math.cos(2 * w)
+        const sw = Math.sin(w)
+        const s2w = Math.sin(2 * w)
+        const numRe = b0 + b1 * cw + b2 * c2w
+        const numIm = -(b1 * sw + b2 * s2w)
+        const denRe = 1 + a1 * cw + a2 * c2w
+        const denIm = -(a1 * sw + a2 * s2w)
         if (withMagnitudes)
-            magnitudes[i] *= response[0]
-        if (withPhases)
-            phases[i] += response[1]
+            magnitudes[i] *= Math.sqrt((numRe * numRe + numIm * numIm) / (denRe * denRe + denIm * denIm))
+        if (withPhases) {
+            let phase = Math.atan2(numIm, numRe) - Math.atan2(denIm, denRe)
+            if (phase >= Math.PI)
+                phase -= 2 * Math.PI
+            else if (phase <= -Math.PI)
+                phase += 2 * Math.PI
+            phases[i] += phase
+        }
     }
     return [magnitudes, phases]
 }

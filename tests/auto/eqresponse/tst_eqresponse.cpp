@@ -323,6 +323,11 @@ void tst_EQResponse::edgeCases_data()
     QTest::newRow("linear to dB of 0") << "vynEQLinearToDB(0)" << -1000.0;
     QTest::newRow("linear to dB of a negative") << "vynEQLinearToDB(-3)" << -1000.0;
     QTest::newRow("linear to dB of 10") << "vynEQLinearToDB(10)" << 20.0;
+    QTest::newRow("summed phase folds pi to -pi")
+        << "vynEQAddBiquadResponses({b0: 1, b1: 0, b2: 0, a1: -3, a2: 0}, -1, [0.25], [0], 1)[1][0]"
+        << -M_PI + 0.25;
+    QTest::newRow("summed phases skip magnitudes")
+        << "vynEQAddBiquadResponses(vynEQPeakingCoefs(0.1, 2, 6), -1, [0], [0.3], 1)[0]" << -1.0;
     QTest::newRow("log2") << "log2(8)" << 3.0;
     QTest::newRow("log10") << "log10(1000)" << 3.0;
 }
