@@ -21,7 +21,8 @@ ApplicationWindow {
         { title: "Labels", source: "pages/LabelsPage.qml" },
         { title: "Controls", source: "pages/ControlsPage.qml" },
         { title: "Hints", source: "pages/HintsPage.qml" },
-        { title: "Meters", source: "pages/MetersPage.qml" }
+        { title: "Meters", source: "pages/MetersPage.qml" },
+        { title: "EQ & Dynamics", source: "pages/EQDynamicsPage.qml" }
     ]
 
     width: 1280

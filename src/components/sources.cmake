@@ -13,4 +13,6 @@ list(APPEND VYNUI_SOURCES
     components/vynuicablabelcomponent.h components/vynuicablabelcomponent.cpp
     components/vynuicombocomponent.h components/vynuicombocomponent.cpp
     components/vynuivumetercomponent.h components/vynuivumetercomponent.cpp
+    components/vynuieqthumbnailcomponent.h components/vynuieqthumbnailcomponent.cpp
+    components/vynuidynthumbnailcomponent.h components/vynuidynthumbnailcomponent.cpp
 )
