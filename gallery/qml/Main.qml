@@ -20,7 +20,8 @@ ApplicationWindow {
         { title: "Components", source: "pages/ComponentsPage.qml" },
         { title: "Labels", source: "pages/LabelsPage.qml" },
         { title: "Controls", source: "pages/ControlsPage.qml" },
-        { title: "Hints", source: "pages/HintsPage.qml" }
+        { title: "Hints", source: "pages/HintsPage.qml" },
+        { title: "Buttons & LEDs", source: "pages/ButtonsPage.qml" }
     ]
 
     width: 1280
