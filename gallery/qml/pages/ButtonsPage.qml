@@ -47,6 +47,69 @@ Flickable {
         })
     }
 
+    // Widths of the channel table's fixed columns; the cabinet column takes the rest.
+    readonly property real channelColumn: 28
+    readonly property real statusColumn: 48
+    readonly property real muteColumn: 76
+    readonly property real standByColumn: 64
+    readonly property real inputColumn: 128
+
+    // One channel of the table: cabinet, status LED, mute and solo, stand-by, input source.
+    component ChannelRow: RowLayout {
+        id: channelRow
+        required property int channel
+        spacing: page.cellGap
+        VynLabel {
+            Layout.preferredWidth: page.channelColumn
+            vynStyle: page.vynStyle
+            text: String(channelRow.channel)
+            font.bold: true
+        }
+        VynUICabLabel {
+            Layout.fillWidth: true
+            vynStyle: page.vynStyle
+            uiCabLabelComponent: board.cabinet(channelRow.channel)
+        }
+        Item {
+            Layout.preferredWidth: page.statusColumn
+            implicitHeight: statusLed.implicitHeight
+            VynUILed {
+                id: statusLed
+                anchors.centerIn: parent
+                vynStyle: page.vynStyle
+                vynControlSize: VynViewUtils.VynControlSizeLarge
+                uiLedComponent: board.statusLed(channelRow.channel)
+            }
+        }
+        Item {
+            Layout.preferredWidth: page.muteColumn
+            implicitHeight: muteSolo.implicitHeight
+            VynUIHandyButton {
+                id: muteSolo
+                anchors.verticalCenter: parent.verticalCenter
+                vynStyle: page.vynStyle
+                vynControlSize: VynViewUtils.VynControlSizeLarge
+                uiHandyButtonComponent: board.muteSolo(channelRow.channel)
+            }
+        }
+        Item {
+            Layout.preferredWidth: page.standByColumn
+            implicitHeight: standBy.implicitHeight
+            VynUIHandyButton {
+                id: standBy
+                anchors.verticalCenter: parent.verticalCenter
+                vynStyle: page.vynStyle
+                vynControlSize: VynViewUtils.VynControlSizeLarge
+                uiHandyButtonComponent: board.standBy(channelRow.channel)
+            }
+        }
+        VynUIComboBox {
+            Layout.preferredWidth: page.inputColumn
+            vynStyle: page.vynStyle
+            uiComboComponent: board.inputSource(channelRow.channel)
+        }
+    }
+
     // A titled panel.
     component Card: Rectangle {
         id: card
@@ -186,105 +249,56 @@ Flickable {
                     title: qsTr("Channels")
                     detail: qsTr("Amp[1] \u00B7 4 channels")
 
-                    GridLayout {
-                        id: channelGrid
+                    Column {
                         width: parent.width
-                        columns: 6
-                        columnSpacing: page.cellGap
-                        rowSpacing: page.cellGap
+                        spacing: page.cellGap
 
-                        Heading { text: qsTr("Ch") }
-                        Heading { text: qsTr("Cabinet"); Layout.fillWidth: true }
-                        Heading { text: qsTr("Status") }
-                        Heading { text: qsTr("Mute / Solo") }
-                        Heading { text: qsTr("Stand-by") }
-                        Heading { text: qsTr("Input") }
-
+                        RowLayout {
+                            width: parent.width
+                            spacing: page.cellGap
+                            Heading { text: qsTr("Ch"); Layout.preferredWidth: page.channelColumn }
+                            Heading { text: qsTr("Cabinet"); Layout.fillWidth: true }
+                            Heading { text: qsTr("Status"); Layout.preferredWidth: page.statusColumn }
+                            Heading { text: qsTr("Mute / Solo"); Layout.preferredWidth: page.muteColumn }
+                            Heading { text: qsTr("Stand-by"); Layout.preferredWidth: page.standByColumn }
+                            Heading { text: qsTr("Input"); Layout.preferredWidth: page.inputColumn }
+                        }
                         Repeater {
-                            model: board.channelCount * 6
-                            delegate: Loader {
-                                id: cell
+                            model: board.channelCount
+                            delegate: ChannelRow {
                                 required property int index
-                                readonly property int channel: Math.floor(index / 6) + 1
-                                readonly property int column: index % 6
-                                Layout.fillWidth: column === 1
-                                Layout.preferredWidth: column === 5 ? 128 : -1
-                                Layout.alignment: Qt.AlignVCenter | (column >= 2 && column <= 4 ? Qt.AlignHCenter : Qt.AlignLeft)
-                                sourceComponent: [channelTitle, cabinetCell, ledCell, muteSoloCell, standByCell, inputCell][column]
+                                width: parent.width
+                                channel: index + 1
                             }
                         }
-
                         Rectangle {
-                            Layout.columnSpan: 6
-                            Layout.fillWidth: true
-                            implicitHeight: VynUIQmlConstants.lineViewWidth()
+                            width: parent.width
+                            height: VynUIQmlConstants.lineViewWidth()
                             color: VynUIQmlConstants.lineViewColorForStyle(page.vynStyle)
                         }
-
-                        VynLabel {
-                            text: qsTr("All")
-                            vynStyle: page.vynStyle
-                            font.bold: true
-                        }
-                        VynUICabLabel {
-                            Layout.fillWidth: true
-                            vynStyle: page.vynStyle
-                            uiCabLabelComponent: board.allCabinets
-                        }
-                        Item { implicitWidth: 1; implicitHeight: 1 }
-                        Item { implicitWidth: 1; implicitHeight: 1 }
-                        Item { implicitWidth: 1; implicitHeight: 1 }
-                        VynUIPopoverCombo {
-                            Layout.preferredWidth: 128
-                            vynStyle: page.vynStyle
-                            uiComboComponent: board.allInputs
-                        }
-                    }
-
-                    Component {
-                        id: channelTitle
-                        VynLabel {
-                            vynStyle: page.vynStyle
-                            text: (parent as Loader).channel
-                            font.bold: true
-                        }
-                    }
-                    Component {
-                        id: cabinetCell
-                        VynUICabLabel {
-                            vynStyle: page.vynStyle
-                            uiCabLabelComponent: board.cabinet((parent as Loader).channel)
-                        }
-                    }
-                    Component {
-                        id: ledCell
-                        VynUILed {
-                            vynStyle: page.vynStyle
-                            vynControlSize: VynViewUtils.VynControlSizeLarge
-                            uiLedComponent: board.statusLed((parent as Loader).channel)
-                        }
-                    }
-                    Component {
-                        id: muteSoloCell
-                        VynUIHandyButton {
-                            vynStyle: page.vynStyle
-                            vynControlSize: VynViewUtils.VynControlSizeLarge
-                            uiHandyButtonComponent: board.muteSolo((parent as Loader).channel)
-                        }
-                    }
-                    Component {
-                        id: standByCell
-                        VynUIHandyButton {
-                            vynStyle: page.vynStyle
-                            vynControlSize: VynViewUtils.VynControlSizeLarge
-                            uiHandyButtonComponent: board.standBy((parent as Loader).channel)
-                        }
-                    }
-                    Component {
-                        id: inputCell
-                        VynUIComboBox {
-                            vynStyle: page.vynStyle
-                            uiComboComponent: board.inputSource((parent as Loader).channel)
+                        RowLayout {
+                            width: parent.width
+                            spacing: page.cellGap
+                            VynLabel {
+                                Layout.preferredWidth: page.channelColumn
+                                vynStyle: page.vynStyle
+                                text: qsTr("All")
+                                font.bold: true
+                            }
+                            VynUICabLabel {
+                                Layout.fillWidth: true
+                                vynStyle: page.vynStyle
+                                uiCabLabelComponent: board.allCabinets
+                            }
+                            Item {
+                                Layout.preferredWidth: page.statusColumn + page.muteColumn + page.standByColumn + 2 * page.cellGap
+                                implicitHeight: 1
+                            }
+                            VynUIPopoverCombo {
+                                Layout.preferredWidth: page.inputColumn
+                                vynStyle: page.vynStyle
+                                uiComboComponent: board.allInputs
+                            }
                         }
                     }
                 }

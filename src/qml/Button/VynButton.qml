@@ -69,7 +69,6 @@ VynItem {
         root._keyDown = false
         root.clicked()
     }
-    onActiveFocusChanged: if (!activeFocus) _keyDown = false
     onEnabledChanged: if (!enabled) _keyDown = false
 
     MouseArea {
@@ -89,12 +88,21 @@ VynItem {
         }
     }
 
-    Loader {
-        active: root.activeFocus
-        anchors.fill: parent
-        anchors.margins: -2 * root.vynMetrics.ratio
-        z: 10
-        sourceComponent: Rectangle {
+    // The focus ring, made the first time the control takes the active focus.
+    property Item _focusRing: null
+    onActiveFocusChanged: {
+        if (!activeFocus)
+            _keyDown = false
+        else if (!_focusRing)
+            _focusRing = _focusRingComponent.createObject(root)
+    }
+    Component {
+        id: _focusRingComponent
+        Rectangle {
+            visible: root.activeFocus
+            anchors.fill: parent
+            anchors.margins: -2 * root.vynMetrics.ratio
+            z: 10
             objectName: "focusRing"
             color: "transparent"
             radius: root.focusRadius + 2 * root.vynMetrics.ratio

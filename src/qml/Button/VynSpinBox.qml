@@ -166,11 +166,16 @@ VynItem {
                 root.stepBy(p_wheel.angleDelta.y > 0 ? root.stepSize : -root.stepSize)
         }
     }
-    Loader {
-        active: root.activeFocus
-        anchors.fill: parent
-        anchors.margins: -2 * root.vynMetrics.ratio
-        sourceComponent: Rectangle {
+    // The focus ring, made the first time the control takes the active focus.
+    property Item _focusRing: null
+    onActiveFocusChanged: if (activeFocus && !_focusRing) _focusRing = _focusRingComponent.createObject(root)
+    Component {
+        id: _focusRingComponent
+        Rectangle {
+            visible: root.activeFocus
+            anchors.fill: parent
+            anchors.margins: -2 * root.vynMetrics.ratio
+            z: 10
             objectName: "focusRing"
             color: "transparent"
             radius: root.vynMetrics.bezelButtonCornerRadius + 2 * root.vynMetrics.ratio

@@ -15,7 +15,8 @@ import VynUI 1.2
 // - Keys: Space, Enter, Return or Alt+Down open the list; Up and Down choose the previous or
 //   next item at once; in the open list Up and Down move, Enter chooses, Escape closes.
 //   A press held past the hold delay reports longPressed() and opens nothing.
-// - The list (and its popup) is made on the first opening.
+// - The list (and its popup) is made on the first opening. usesPopover puts it in a VynPopover
+//   pointing at the combo (VynPopoverCombo) instead of a drop-down below it.
 VynItem {
     id: root
 
@@ -27,14 +28,13 @@ VynItem {
     readonly property string displayText: mixed ? VynUIQmlConstants.localizedString("MULTIPLE")
                                           : currentIndex >= 0 && currentIndex < model.length
                                             ? model[currentIndex] : noValueText
-    readonly property Popup _popup: _popupLoader.item as Popup
+    // Whether the list opens in a popover pointing at the combo rather than below it.
+    property bool usesPopover: false
+    property Popup _popup: null
     readonly property bool popupVisible: _popup ? _popup.visible : false
     readonly property bool pressed: _mouse.pressed
     // The item list while it exists (from the first opening on).
     readonly property ListView listView: _popup ? _popup.contentItem as ListView : null
-    // The popup that shows the list: a Popup whose parent is the combo and whose content item
-    // is a VynComboList. VynPopoverCombo puts it in a popover.
-    property Component popupComponent: _dropDown
 
     signal activated(int index)
     signal longPressed
@@ -42,7 +42,8 @@ VynItem {
     function openList() {
         if (!enabled || model.length === 0)
             return
-        _popupLoader.active = true
+        if (!_popup)
+            _popup = (usesPopover ? _popoverList : _dropDown).createObject(root) as Popup
         _popup.open()
     }
     function closeList() {
@@ -149,11 +150,16 @@ VynItem {
                 root.openList()
         }
     }
-    Loader {
-        active: root.activeFocus
-        anchors.fill: parent
-        anchors.margins: -2 * root.vynMetrics.ratio
-        sourceComponent: Rectangle {
+    // The focus ring, made the first time the control takes the active focus.
+    property Item _focusRing: null
+    onActiveFocusChanged: if (activeFocus && !_focusRing) _focusRing = _focusRingComponent.createObject(root)
+    Component {
+        id: _focusRingComponent
+        Rectangle {
+            visible: root.activeFocus
+            anchors.fill: parent
+            anchors.margins: -2 * root.vynMetrics.ratio
+            z: 10
             objectName: "focusRing"
             color: "transparent"
             radius: root.vynMetrics.popupButtonCornerRadius + 2 * root.vynMetrics.ratio
@@ -164,11 +170,6 @@ VynItem {
         }
     }
 
-    Loader {
-        id: _popupLoader
-        active: false
-        sourceComponent: root.popupComponent
-    }
 
     Component {
         id: _dropDown
@@ -188,6 +189,30 @@ VynItem {
                 border.width: 1
                 border.color: root.vynMetrics.popoverBorderColor
             }
+            contentItem: VynComboList {
+                vynStyle: root.vynStyle
+                vynControlSize: root.vynControlSize
+                vynPixelRatio: root.vynPixelRatio
+                vynPixelRatioFont: root.vynPixelRatioFont
+                model: root.model
+                selectedIndexes: root.selectedIndexes
+                onChosen: function (p_index) { root._choose(p_index) }
+            }
+        }
+    }
+
+    Component {
+        id: _popoverList
+        VynPopover {
+            id: _popover
+            parent: root
+            vynStyle: root.vynStyle
+            vynControlSize: root.vynControlSize
+            vynPixelRatio: root.vynPixelRatio
+            vynPixelRatioFont: root.vynPixelRatioFont
+            preferredWidth: Math.max(root.width, root.vynMetrics.popoverGenericWidth)
+            onAboutToShow: (_popover.contentItem as ListView).currentIndex = root._firstSelected()
+            onClosed: root.forceActiveFocus()
             contentItem: VynComboList {
                 vynStyle: root.vynStyle
                 vynControlSize: root.vynControlSize

@@ -30,7 +30,6 @@ ListView {
     focus: true
     keyNavigationWraps: false
     boundsBehavior: Flickable.StopAtBounds
-    highlightMoveDuration: 0
     Accessible.role: Accessible.List
 
     Keys.onPressed: function (p_event) {
@@ -46,11 +45,6 @@ ListView {
         p_event.accepted = true
     }
 
-    highlight: Rectangle {
-        radius: root.vynMetrics.popupButtonCornerRadius
-        color: root.vynMetrics.controlColorOn
-    }
-
     delegate: Item {
         id: _row
         required property int index
@@ -63,6 +57,12 @@ ListView {
         Accessible.name: modelData
         Accessible.selected: selected
 
+        Rectangle {
+            anchors.fill: parent
+            visible: _row.current
+            radius: root.vynMetrics.popupButtonCornerRadius
+            color: root.vynMetrics.controlColorOn
+        }
         Text {
             id: _mark
             x: root.vynMetrics.popupButtonInsetsH

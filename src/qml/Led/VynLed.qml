@@ -40,12 +40,29 @@ VynItem {
     Accessible.name: DiscreteActions.ledStateName(ledState)
     Accessible.description: mixed ? VynUIQmlConstants.localizedString("MULTIPLE") : ""
 
-    Loader {
-        active: root.lit && root.glow && !root.mixed
-        anchors.centerIn: parent
-        width: root._size * 2
-        height: root._size * 2
-        sourceComponent: Shape {
+    // The glow and the triangle are made when first needed: most LEDs are round, many unlit.
+    property Item _glowItem: null
+    property Item _triangleItem: null
+    function _makeParts() {
+        if (lit && glow && !_glowItem)
+            _glowItem = _glowComponent.createObject(root)
+        if (ledShape !== VynViewUtils.VynLedShapeCircle && !_triangleItem)
+            _triangleItem = _triangleComponent.createObject(root)
+    }
+    Component.onCompleted: _makeParts()
+    onLitChanged: _makeParts()
+    onGlowChanged: _makeParts()
+    onLedShapeChanged: _makeParts()
+
+    Component {
+        id: _glowComponent
+        Shape {
+            visible: root.lit && root.glow && !root.mixed
+            z: -1
+            x: (root.width - width) / 2
+            y: (root.height - height) / 2
+            width: root._size * 2
+            height: root._size * 2
             layer.enabled: true
             layer.samples: 4
             ShapePath {
@@ -93,14 +110,16 @@ VynItem {
         }
     }
 
-    Loader {
-        active: root.ledShape !== VynViewUtils.VynLedShapeCircle
-        anchors.centerIn: parent
-        width: root._size
-        height: root._size
-        opacity: root.mixed ? 0.55 : 1
-        sourceComponent: Shape {
+    Component {
+        id: _triangleComponent
+        Shape {
             id: _triangle
+            visible: root.ledShape !== VynViewUtils.VynLedShapeCircle
+            x: (root.width - width) / 2
+            y: (root.height - height) / 2
+            width: root._size
+            height: root._size
+            opacity: root.mixed ? 0.55 : 1
             readonly property bool down: root.ledShape === VynViewUtils.VynLedShapeUpsideDownTriangle
             layer.enabled: true
             layer.samples: 4
@@ -120,6 +139,7 @@ VynItem {
 
     Rectangle {
         visible: root.mixed
+        z: 2
         anchors.centerIn: parent
         width: root._size * 0.6
         height: Math.max(1.5, root._size * 0.16)
