@@ -46,8 +46,6 @@ class VynSimulatedSwitchboard : public QObject
     Q_PROPERTY(int latency READ latency WRITE setLatency NOTIFY latencyChanged)
     Q_PROPERTY(bool running READ running WRITE setRunning NOTIFY runningChanged)
     Q_PROPERTY(QStringList traffic READ traffic NOTIFY trafficChanged)
-    Q_PROPERTY(VynUIComboComponent* allInputs READ allInputs CONSTANT)
-    Q_PROPERTY(VynUICabLabelComponent* allCabinets READ allCabinets CONSTANT)
 
 public:
     explicit VynSimulatedSwitchboard(QObject* parent = nullptr);
@@ -67,8 +65,10 @@ public:
     Q_INVOKABLE VynUILedComponent* statusLed(int channel) const;
     Q_INVOKABLE VynUIComboComponent* inputSource(int channel) const;
     Q_INVOKABLE VynUICabLabelComponent* cabinet(int channel) const;
-    VynUIComboComponent* allInputs() const { return m_allInputs; }
-    VynUICabLabelComponent* allCabinets() const { return m_allCabinets; }
+    //! The input source of every channel at once, mixed while they differ.
+    Q_INVOKABLE VynUIComboComponent* allInputs() const { return m_allInputs; }
+    //! The cabinets of every channel at once.
+    Q_INVOKABLE VynUICabLabelComponent* allCabinets() const { return m_allCabinets; }
 
     //! Sets a status parameter ("Clip", "Limit", "Protect") of \a channel as the device would.
     Q_INVOKABLE void setStatus(int channel, const QString& parameter, bool active);

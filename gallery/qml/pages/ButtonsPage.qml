@@ -20,10 +20,10 @@ Flickable {
     readonly property real gap: VynUIQmlConstants.marginWindow()
     readonly property real pad: VynUIQmlConstants.marginPopover()
     readonly property real cellGap: VynUIQmlConstants.marginParent()
-    // Two columns where both cards fit side by side.
+    // The cards stack in one column, each at least this wide.
     readonly property real channelCardWidth: 560
     readonly property real controlsCardWidth: 470
-    readonly property bool twoColumns: width - 2 * gap >= channelCardWidth + gap + controlsCardWidth
+    readonly property bool twoColumns: false
 
     contentWidth: Math.max(width, (twoColumns ? channelCardWidth + gap + controlsCardWidth
                                               : Math.max(channelCardWidth, controlsCardWidth)) + 2 * gap)
@@ -288,7 +288,7 @@ Flickable {
                             VynUICabLabel {
                                 Layout.fillWidth: true
                                 vynStyle: page.vynStyle
-                                uiCabLabelComponent: board.allCabinets
+                                uiCabLabelComponent: board.allCabinets()
                             }
                             Item {
                                 Layout.preferredWidth: page.statusColumn + page.muteColumn + page.standByColumn + 2 * page.cellGap
@@ -297,7 +297,7 @@ Flickable {
                             VynUIPopoverCombo {
                                 Layout.preferredWidth: page.inputColumn
                                 vynStyle: page.vynStyle
-                                uiComboComponent: board.allInputs
+                                uiComboComponent: board.allInputs()
                             }
                         }
                     }
