@@ -76,6 +76,28 @@ const Pair kPairs[] = {
      "RoundButton { text: \"?\" }"},
     {"VynVUMeter11 / ProgressBar", "VynVUMeter11 { width: 12; height: 160 }",
      "ProgressBar { width: 160; value: 0.5 }"},
+    // Discrete controls.
+    {"VynBezelButton / Button", "VynBezelButton { text: \"Mute\" }", "Button { text: \"Mute\" }"},
+    {"VynFlatButton / Button", "VynFlatButton { text: \"Mute\" }", "Button { text: \"Mute\" }"},
+    {"VynInlineButton / Button", "VynInlineButton { text: \"M\" }", "Button { text: \"M\" }"},
+    {"VynTemplateButton / Button", "VynTemplateButton { text: \"Voice\" }",
+     "Button { text: \"Voice\" }"},
+    {"VynUICommonButton / Button", "VynUICommonButton { }", "Button { text: \"Mute\" }"},
+    {"VynCheckBox / CheckBox", "VynCheckBox { text: \"Link\" }", "CheckBox { text: \"Link\" }"},
+    {"VynSwitch / Switch", "VynSwitch { }", "Switch { }"},
+    {"VynSpinBox / SpinBox", "VynSpinBox { width: 120 }", "SpinBox { width: 120 }"},
+    {"VynComboBox / ComboBox", "VynComboBox { width: 140; model: [\"Analog\", \"Dante\"] }",
+     "ComboBox { width: 140; model: [\"Analog\", \"Dante\"] }"},
+    {"VynPopoverCombo / ComboBox", "VynPopoverCombo { width: 140; model: [\"Analog\", \"Dante\"] }",
+     "ComboBox { width: 140; model: [\"Analog\", \"Dante\"] }"},
+    {"VynUIComboBox / ComboBox", "VynUIComboBox { width: 140 }", "ComboBox { width: 140 }"},
+    {"VynLed / Rectangle", "VynLed { ledState: 3 }",
+     "Rectangle { width: 13; height: 13; radius: 6.5; color: \"green\" }"},
+    {"VynUILed / Rectangle", "VynUILed { }",
+     "Rectangle { width: 13; height: 13; radius: 6.5; color: \"green\" }"},
+    {"VynUIHandyButton / Button", "VynUIHandyButton { }", "Button { text: \"M\" }"},
+    {"VynUILabel / Label", "VynUILabel { }", "Label { text: \"Channel 1\" }"},
+    {"VynUICabLabel / Label", "VynUICabLabel { }", "Label { text: \"K2 110\" }"},
 };
 
 double median(std::vector<double> values)

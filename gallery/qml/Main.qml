@@ -22,7 +22,8 @@ ApplicationWindow {
         { title: "Controls", source: "pages/ControlsPage.qml" },
         { title: "Hints", source: "pages/HintsPage.qml" },
         { title: "Meters", source: "pages/MetersPage.qml" },
-        { title: "EQ & Dynamics", source: "pages/EQDynamicsPage.qml" }
+        { title: "EQ & Dynamics", source: "pages/EQDynamicsPage.qml" },
+        { title: "Buttons & LEDs", source: "pages/ButtonsPage.qml" }
     ]
 
     width: 1280

@@ -71,9 +71,9 @@ public:
 
     //! Sets the stored enabled flag of every component of the visible type.
     void setVisibleComponentsEnabled(bool enabled);
-    int numberOfComponentsForButtonType(ButtonType type) const;
+    Q_INVOKABLE int numberOfComponentsForButtonType(ButtonType type) const;
     //! The component at \a index of the visible type, null when there is none.
-    VynUIComponent* getVisibleButtonComponent(int index) const;
+    Q_INVOKABLE VynUIComponent* getVisibleButtonComponent(int index) const;
     //! The component at \a index of \a type, null when there is none.
     VynUIComponent* getButtonComponent(ButtonType type, int index) const;
 

@@ -1,5 +1,6 @@
 #include "vynuimetrics.h"
 
+#include "vyncolorappearance.h"
 #include "vynuiqmlconstants.h"
 
 #include <string_view>
@@ -196,6 +197,51 @@ QColor VynUIMetrics::popoverBorderColor() const
 QColor VynUIMetrics::colorIconShadowColor() const
 {
     return VynUIQmlConstants::colorIconShadowColorForStyle(styleValue());
+}
+
+QColor VynUIMetrics::flatButtonFillColor(int p_on) const
+{
+    return VynColorAppearance::flatButtonFillColorForStyle(styleValue(), p_on);
+}
+
+QColor VynUIMetrics::flatButtonBorderColor(int p_on) const
+{
+    return VynColorAppearance::flatButtonBorderColorForStyle(styleValue(), p_on);
+}
+
+QColor VynUIMetrics::flatButtonTextColor(int p_on) const
+{
+    return VynColorAppearance::flatButtonTextColorForStyle(styleValue(), p_on);
+}
+
+QColor VynUIMetrics::inlineButtonColor(int p_on) const
+{
+    return VynColorAppearance::inlineButtonColorForStyle(styleValue(), p_on);
+}
+
+QColor VynUIMetrics::templateButtonColor(int p_on) const
+{
+    return VynColorAppearance::templateButtonColorForStyle(styleValue(), p_on);
+}
+
+QColor VynUIMetrics::templateButtonTextColor(int p_on) const
+{
+    return VynColorAppearance::templateButtonTextColorForStyle(styleValue(), p_on);
+}
+
+QColor VynUIMetrics::ledFillColor(int p_state) const
+{
+    return VynColorAppearance::ledFillColorForState(p_state);
+}
+
+QColor VynUIMetrics::ledBorderColor(int p_state) const
+{
+    return VynColorAppearance::ledBorderColorForState(p_state);
+}
+
+QColor VynUIMetrics::ledGlowColor(int p_state) const
+{
+    return VynColorAppearance::ledGlowColorForState(p_state);
 }
 
 #define VYNUI_SIZED_METRIC(type, name, scaling, mini, small, regular, large, extraLarge)           \

@@ -150,6 +150,18 @@ public:
     QColor popoverBorderColor() const;
     QColor colorIconShadowColor() const;
 
+    // Colours of the discrete controls by state: \a p_on is 0 (off) or 1 (on); the LED
+    // colours take a VynViewUtils::VynLedState from 0 to 4 and are the same in both styles.
+    Q_INVOKABLE QColor flatButtonFillColor(int p_on) const;
+    Q_INVOKABLE QColor flatButtonBorderColor(int p_on) const;
+    Q_INVOKABLE QColor flatButtonTextColor(int p_on) const;
+    Q_INVOKABLE QColor inlineButtonColor(int p_on) const;
+    Q_INVOKABLE QColor templateButtonColor(int p_on) const;
+    Q_INVOKABLE QColor templateButtonTextColor(int p_on) const;
+    Q_INVOKABLE QColor ledFillColor(int p_state) const;
+    Q_INVOKABLE QColor ledBorderColor(int p_state) const;
+    Q_INVOKABLE QColor ledGlowColor(int p_state) const;
+
 #define VYNUI_SIZED_METRIC(type, name, scaling, mini, small, regular, large, extraLarge)           \
     type name() const;
 #define VYNUI_SCALED_METRIC(type, name, scaling, base) type name() const;

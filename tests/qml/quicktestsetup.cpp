@@ -4,6 +4,7 @@
 #include <qapplicationsettings.h>
 #include <qcorewindowcontroller.h>
 #include <vynhintmanager.h>
+#include <vynuiledcomponent.h>
 #include <vynuiplugin.h>
 #include <vynuislidercomponent.h>
 
@@ -82,6 +83,12 @@ void TestHost::nameComponent(QObject* p_component, const QString& p_name)
 {
     if (auto* component = qobject_cast<VynUIComponent*>(p_component))
         component->setName(p_name);
+}
+
+void TestHost::setLedState(QObject* p_component, int p_state, bool p_mixed)
+{
+    if (auto* led = qobject_cast<VynUILedComponent*>(p_component))
+        led->setLedState(static_cast<VynViewUtils::VynLedState>(p_state), p_mixed);
 }
 
 void TestHost::watchEditing(QObject* p_component)

@@ -23,6 +23,8 @@ class QCoreWindowController;
 // - watchEditing(component): counts the component's editedWhileMultiple(bool) as a host
 //   connected in C++ sees it (QML cannot tell the two overloads apart); editedCount and
 //   lastAutoClose report it.
+// - setLedState(component, state, mixed): what a host does once it has worked out an LED's
+//   state from its parameters.
 class TestHost : public QObject, public QApplicationMessagePresenter
 {
     Q_OBJECT
@@ -51,6 +53,8 @@ public:
     Q_INVOKABLE void pushValue(QObject* p_component, double p_value, const QVariantList& p_values);
     // The display name a host gives a component (native-only on the component).
     Q_INVOKABLE void nameComponent(QObject* p_component, const QString& p_name);
+    // The state a host works out for a status LED (native-only on the LED component).
+    Q_INVOKABLE void setLedState(QObject* p_component, int p_state, bool p_mixed);
 
 signals:
     void presented();
