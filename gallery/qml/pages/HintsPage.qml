@@ -167,8 +167,10 @@ Flickable {
             Layout.fillWidth: true
             spacing: 12
 
-            Button {
+            VynBezelButton {
                 id: tourButton
+                vynStyle: GalleryTheme.vynStyle
+                checkable: false
                 text: qsTr("Start the tour")
                 onClicked: {
                     hintManager.scheduleHint("gallery.tour.gain", gainSlider, qsTr("1 of 3: Gain"),
@@ -179,7 +181,9 @@ Flickable {
                                              qsTr("Keep an eye on the status: click it for details."), false, 0)
                 }
             }
-            Button {
+            VynBezelButton {
+                vynStyle: GalleryTheme.vynStyle
+                checkable: false
                 text: qsTr("Show hidden hints again")
                 onClicked: GalleryModuleInfo.resetHiddenHints()
             }

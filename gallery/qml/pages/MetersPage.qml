@@ -161,7 +161,9 @@ Flickable {
 
         RowLayout {
             spacing: 12
-            Button {
+            VynBezelButton {
+                vynStyle: GalleryTheme.vynStyle
+                checkable: false
                 text: page.paused ? qsTr("Restart") : qsTr("Pause")
                 onClicked: {
                     if (page.paused)
@@ -171,7 +173,9 @@ Flickable {
                     page.paused = !page.paused
                 }
             }
-            Button {
+            VynBezelButton {
+                vynStyle: GalleryTheme.vynStyle
+                checkable: false
                 text: qsTr("Reset holds")
                 onClicked: {
                     VynVUMeterManager.resetAllVUMeters()
