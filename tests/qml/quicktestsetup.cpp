@@ -3,6 +3,7 @@
 #include <qapplicationmessage.h>
 #include <qapplicationsettings.h>
 #include <qcorewindowcontroller.h>
+#include <vyneqcommoneq.h>
 #include <vynhintmanager.h>
 #include <vynuiledcomponent.h>
 #include <vynuiplugin.h>
@@ -127,4 +128,12 @@ void QuickTestSetup::cleanupTestCase()
 {
     m_host.removePresenter();
     m_host.detachWindowController();
+}
+
+QObject* TestHost::makeEQ(int p_bandCount)
+{
+    auto* eq = new VynEQCommonEQ;
+    eq->setBandCount(p_bandCount);
+    QQmlEngine::setObjectOwnership(eq, QQmlEngine::JavaScriptOwnership);
+    return eq;
 }

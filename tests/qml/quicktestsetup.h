@@ -25,6 +25,7 @@ class QCoreWindowController;
 //   lastAutoClose report it.
 // - setLedState(component, state, mixed): what a host does once it has worked out an LED's
 //   state from its parameters.
+// - makeEQ(bandCount): an EQ object as a host hands it to the EQ views.
 class TestHost : public QObject, public QApplicationMessagePresenter
 {
     Q_OBJECT
@@ -55,6 +56,9 @@ public:
     Q_INVOKABLE void nameComponent(QObject* p_component, const QString& p_name);
     // The state a host works out for a status LED (native-only on the LED component).
     Q_INVOKABLE void setLedState(QObject* p_component, int p_state, bool p_mixed);
+    // An EQ of p_bandCount bells at 1 kHz, 0 dB, q 1, owned by the caller's JS engine (the
+    // host's EQ objects are not creatable from QML).
+    Q_INVOKABLE QObject* makeEQ(int p_bandCount);
 
 signals:
     void presented();
