@@ -3,6 +3,7 @@
 #include <qapplicationmessage.h>
 #include <qapplicationsettings.h>
 #include <qcorewindowcontroller.h>
+#include <vyndynamiccommon.h>
 #include <vyneqcommoneq.h>
 #include <vynhintmanager.h>
 #include <vynuiledcomponent.h>
@@ -136,4 +137,13 @@ QObject* TestHost::makeEQ(int p_bandCount)
     eq->setBandCount(p_bandCount);
     QQmlEngine::setObjectOwnership(eq, QQmlEngine::JavaScriptOwnership);
     return eq;
+}
+
+QObject* TestHost::makeDynamics(double p_threshold, double p_ratio)
+{
+    auto* block = new VynDynamicCommon;
+    block->setThreshold(p_threshold);
+    block->setRatio(p_ratio);
+    QQmlEngine::setObjectOwnership(block, QQmlEngine::JavaScriptOwnership);
+    return block;
 }

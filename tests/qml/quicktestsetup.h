@@ -25,7 +25,8 @@ class QCoreWindowController;
 //   lastAutoClose report it.
 // - setLedState(component, state, mixed): what a host does once it has worked out an LED's
 //   state from its parameters.
-// - makeEQ(bandCount): an EQ object as a host hands it to the EQ views.
+// - makeEQ(bandCount), makeDynamics(threshold, ratio): EQ and dynamics objects as a host
+//   hands them to the graph views.
 class TestHost : public QObject, public QApplicationMessagePresenter
 {
     Q_OBJECT
@@ -59,6 +60,8 @@ public:
     // An EQ of p_bandCount bells at 1 kHz, 0 dB, q 1, owned by the caller's JS engine (the
     // host's EQ objects are not creatable from QML).
     Q_INVOKABLE QObject* makeEQ(int p_bandCount);
+    // A dynamics block at p_threshold dB with p_ratio (the output slope), owned likewise.
+    Q_INVOKABLE QObject* makeDynamics(double p_threshold, double p_ratio);
 
 signals:
     void presented();
