@@ -78,8 +78,10 @@ VynItem {
                 color: root.vynMetrics.controlTextColorOn
             }
         }
+        // The channels of one cabinet; a name that stands for several shows none.
         Text {
-            visible: !root._short && text.length > 0
+            objectName: "channels"
+            visible: !root._short && !root._mixed && text.length > 0
             text: root._channels
             font.family: VynFonts.vynFamilyRegular
             font.pixelSize: root.vynMetrics.fontSizeInlineButton
