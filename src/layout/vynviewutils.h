@@ -418,6 +418,17 @@ VYNUI_EXPORT void registerConverters();
 
 } // namespace VynViewUtils
 
+// A resize step hands its settings on by non-const reference, so that whoever applies them
+// can write the corrected factors back (grid utility signal, magnet cell invokable). Qt 6.4's
+// meta-object tables require a complete meta-type for every argument and have none for a
+// non-const reference; describe the argument by its value type, as later Qt versions do.
+namespace QtPrivate {
+template <> struct MetatypeDecay<VynViewUtils::VynResizeSettings&>
+{
+    using type = VynViewUtils::VynResizeSettings;
+};
+} // namespace QtPrivate
+
 /*!
     Makes parameter paths readable from QML as the value type vynProxyParamPath
     (text, empty, lastName, lastNameText).
